@@ -1,0 +1,392 @@
+/* Zorvic: 2D raster graphics for Windows desktop programs. Usable from C and C++; link libzorvic32.
+ *
+ * Handles.  A bitmap (HGBITMAP) is one pixel surface, in heap memory or in a GDI DIB section. A texture (HGTEXTURE) is
+ *   a bitmap with a layout mode and slices; a canvas (HGCANVAS) is what everything draws on: a surface of its own, or a
+ *   device context of the host. The host deletes what it created. A NULL handle gives 0 or NULL at once.
+ * Pixels.  See types.h. A canvas always has 32-bit premultiplied pixels; nothing here divides by 255: a byte is scaled
+ *   by k = 1..256 as (byte * k) >> 8.
+ * Operation word.  Every bitmap, texture and canvas carries one, called its filter (SetBitmapFilter, SetCanvasFilter).
+ *   Its top byte says how the pixels are composed when drawn, see ZORVIC_OP_COPY; the colour key has its colour in the
+ *   low 24 bits.
+ * Coordinates.  Rectangles on a canvas are logical pixels, right and bottom exclusive; the surface pixel is
+ *   logical + viewport origin - window origin. The clip stays where it was set, in surface pixels.
+ * Results.  1 is done, 0 is refused. Drawing returns 1 once its handles are valid, even if nothing was visible.
+ *   There are no error codes and no messages.
+ * Threads.  Any thread may use the library; each object is used by one thread at a time. The two process-wide settings
+ *   (SetStretchKernelMode, RegisterD2DResoureMgr) are changed while no other thread draws. */
+#ifndef ZORVIC_ZORVIC_H
+#define ZORVIC_ZORVIC_H
+
+#include "zorvic/types.h"
+
+#ifdef __cplusplus
+    #define ZORVIC_EXTERN extern "C"
+#else
+    #define ZORVIC_EXTERN extern
+#endif
+#ifdef ZORVIC_BUILD
+    #define ZORVIC_API ZORVIC_EXTERN
+#else
+    #define ZORVIC_API ZORVIC_EXTERN __declspec(dllimport)
+#endif
+#define ZORVIC_CALL __cdecl
+
+/** Operation words: how a source, or a fill's colour, meets the pixels that are there. */
+enum {
+    ZORVIC_OP_COPY = 0x00000000,        /**< replaces them; below opacity 255 a source is blended as SOURCE_OVER */
+    ZORVIC_OP_SOURCE_OVER = 0x01000000, /**< drawn over them by its alpha */
+    ZORVIC_OP_COLOR_KEY = 0x02000000, /**< copies what differs from the key, OR'ed in as 0xRRGGBB; fills: SOURCE_OVER */
+    ZORVIC_OP_MULTIPLY = 0x03000000,  /**< multiplies channel by channel; ignores the opacity */
+    ZORVIC_OP_OR = 0x04000000,        /**< fills only: bitwise OR; 0 clears, 0xFFFFFFFF changes nothing */
+    ZORVIC_OP_GRAY_WASH = 0x05000000, /**< fills only: mixes in the pixel's grey by the colour's alpha */
+    ZORVIC_OP_DESTINATION_OVER = 0x06000000 /**< drawn behind them; ignores the opacity */
+};
+
+/** Sampling filters: how a source is read when it is drawn at another size. Any other value is bilinear too. */
+enum {
+    ZORVIC_FILTER_NEAREST = 0,
+    ZORVIC_FILTER_BILINEAR = 1,
+    ZORVIC_FILTER_BICUBIC = 4, /**< kernel chosen by SetStretchKernelMode */
+    ZORVIC_FILTER_AREA = 5     /**< mean of the covered source pixels; enlargements are bicubic */
+};
+
+/* ------------------------------------------------------------------------------------------------------- bitmaps */
+
+/** Creates a bitmap with its pixels in a top-down 32-bit DIB section, for GDI to draw on. Pixels start at 0.
+ *  \param width,height  pixels, 1..32767 each
+ *  \return a bitmap to be deleted with DeleteBitmap; NULL for a bad size or when memory is short */
+ZORVIC_API HGBITMAP ZORVIC_CALL CreateSystemBitmap(int width, int height);
+
+/** Creates a 32-bit bitmap in heap memory. Its pixels start undefined.
+ *  \param width,height  pixels, 1..32767 each
+ *  \return a bitmap to be deleted with DeleteBitmap; NULL for a bad size or when memory is short */
+ZORVIC_API HGBITMAP ZORVIC_CALL CreateMemBitmap(int width, int height);
+
+/** Creates a bitmap in heap memory with a depth and a palette of its own. Pixels and palette start undefined.
+ *  \param width,height  pixels, 1..32767 each
+ *  \param bitsPixel     1..32; only depths from 8 on can be locked, and only 8, 24 and 32 are drawn as such
+ *  \param colorCount    palette entries, cut to 2^bitsPixel; 0, the grey ramp; ignored above 8 bits
+ *  \return a bitmap to be deleted with DeleteBitmap; NULL for a bad size or depth, or when memory is short */
+ZORVIC_API HGBITMAP ZORVIC_CALL CreateMemBitmapEx(int width, int height, int bitsPixel, int colorCount);
+
+/** Deletes a bitmap or texture and the pixels it owns. NULL is ignored. */
+ZORVIC_API void ZORVIC_CALL DeleteBitmap(HGBITMAP bitmap);
+
+/** Does nothing: the bitmap stays alive. Kept for hosts that call it; see DeleteBitmap. */
+ZORVIC_API void ZORVIC_CALL ReleaseBitmap(HGBITMAP bitmap);
+
+/** The bitmap's pixels as a GDI bitmap. A bitmap in heap memory is first turned into a 32-bit DIB section, once and
+ *  for good, which moves its pixels; earlier locks end.
+ *  \return a handle that stays the bitmap's and must not be deleted by the host; 0 for NULL, for a bitmap without
+ *          pixels of its own, or when GDI refuses */
+ZORVIC_API HBITMAP ZORVIC_CALL GetBitmapHandle(HGBITMAP bitmap);
+
+/** Writes width and height in pixels (0 and 0 without pixels). \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GetBitmapSize(HGBITMAP bitmap, SIZE* size);
+
+/** Describes the pixels of a bitmap, for reading and writing in place. Locks do not count or exclude one another.
+ *  \param out   receives the description of the area
+ *  \param area  surface pixels; NULL, all of it
+ *  \return 1; 0 for NULL, without pixels, below 8 bits per pixel, or for an area that is empty or reaches outside */
+ZORVIC_API int ZORVIC_CALL LockBitmapBits(HGBITMAP bitmap, BITMAP* out, const RECT* area);
+
+/** LockBitmapBits with the palette: the bitmap's own, the grey ramp (256 entries) for 8 bits without one, none above 8.
+ */
+ZORVIC_API int ZORVIC_CALL LockBitmapBitsEx(HGBITMAP bitmap, BitmapLockInfo* out, const RECT* area);
+
+/** Ends a lock.
+ *  \param value    passed on to the resource manager
+ *  \param changed  not 0: tells the registered resource manager that the pixels changed
+ *  \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL UnlockBitmapBits(HGBITMAP bitmap, DWORD value, int changed);
+
+/** Reads the operation word. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GetBitmapFilter(HGBITMAP bitmap, DWORD* filter);
+
+/** Sets the operation word with which the bitmap is drawn from now on. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL SetBitmapFilter(HGBITMAP bitmap, DWORD filter);
+
+/** Writes the bits per pixel (0 without pixels). \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GetBitmapBitsPixel(HGBITMAP bitmap, BYTE* bitsPixel);
+
+/** Copies pixels, palette and operation word between surfaces of one depth and palette size, or widens any source
+ *  into a 32-bit surface. Other pairs copy nothing. Nothing is stretched: the source area's size is copied.
+ *  \param dst,src          may be the same bitmap
+ *  \param dstArea,srcArea  surface pixels; NULL, all of it. The destination area places the copy, which is cut to what
+ *                          lies inside the destination surface
+ *  \return 1 for two valid handles, whatever was copied; else 0 */
+ZORVIC_API int ZORVIC_CALL CopyBitmap(HGBITMAP dst, const RECT* dstArea, HGBITMAP src, const RECT* srcArea);
+
+/* The same functions for textures: each is the bitmap function of that name under another one. */
+ZORVIC_API void ZORVIC_CALL DeleteTexture(HGTEXTURE texture);
+ZORVIC_API void ZORVIC_CALL ReleaseTexture(HGTEXTURE texture); /* deletes, unlike ReleaseBitmap */
+ZORVIC_API HBITMAP ZORVIC_CALL GetTextureHandle(HGTEXTURE texture);
+ZORVIC_API int ZORVIC_CALL LockTextureBits(HGTEXTURE texture, BITMAP* out, const RECT* area);
+ZORVIC_API int ZORVIC_CALL LockTextureBitsEx(HGTEXTURE texture, BitmapLockInfo* out, const RECT* area);
+ZORVIC_API int ZORVIC_CALL UnlockTextureBits(HGTEXTURE texture, DWORD value, int changed);
+ZORVIC_API int ZORVIC_CALL GetTextureFilter(HGTEXTURE texture, DWORD* filter);
+ZORVIC_API int ZORVIC_CALL SetTextureFilter(HGTEXTURE texture, DWORD filter);
+ZORVIC_API int ZORVIC_CALL GetTextureBitsPixel(HGTEXTURE texture, BYTE* bitsPixel);
+ZORVIC_API int ZORVIC_CALL CopyTexture(HGTEXTURE dst, const RECT* dstArea, HGTEXTURE src, const RECT* srcArea);
+
+#ifdef __cplusplus
+/** What a host implements to follow its bitmaps, for example to drop copies of their pixels. */
+class ResourceManager {
+public:
+    /** The pixels of the bitmap are about to be released or replaced. */
+    virtual void OnRelease(HGBITMAP bitmap) = 0;
+    /** The pixels of the bitmap were changed; value is what UnlockBitmapBits was given, 0 for effects. */
+    virtual void OnChange(HGBITMAP bitmap, DWORD value) = 0;
+};
+#else
+typedef struct ResourceManager ResourceManager;
+#endif
+
+/** Registers the process-wide resource manager; NULL, none. It stays the host's. \return manager */
+ZORVIC_API ResourceManager* ZORVIC_CALL RegisterD2DResoureMgr(ResourceManager* manager);
+
+/* ------------------------------------------------------------------------------------------------------ textures */
+
+/** CreateTextureEx(width, height, 32, 0). */
+ZORVIC_API HGTEXTURE ZORVIC_CALL CreateTexture(int width, int height);
+
+/** Creates a texture in heap memory, without slices and with a plain stretch as its layout.
+ *  Arguments and failures are those of CreateMemBitmapEx. \return a texture to be deleted with DeleteTexture */
+ZORVIC_API HGTEXTURE ZORVIC_CALL CreateTextureEx(int width, int height, int bitsPixel, int colorCount);
+
+/** A texture that shows a canvas's pixels without owning them. Delete it before the canvas; it goes on showing the old
+ *  pixels when the canvas's surface is turned into a DIB section (GetCanvasHandle) after this call.
+ *  \return a texture to be deleted with DeleteTexture; NULL for NULL or a canvas without a surface */
+ZORVIC_API HGTEXTURE ZORVIC_CALL GetTexture(HGCANVAS canvas);
+
+/** Turns a bitmap into a texture: the pixels move, the bitmap is deleted and its handle ends. \return NULL for NULL */
+ZORVIC_API HGTEXTURE ZORVIC_CALL BitmapToTexture(HGBITMAP bitmap);
+
+/** Turns a canvas into a texture: the surface moves, the canvas is deleted and its handle ends. Unless the canvas's
+ *  operation is ZORVIC_OP_SOURCE_OVER, every pixel becomes opaque. \return NULL for NULL */
+ZORVIC_API HGTEXTURE ZORVIC_CALL CanvasToTexture(HGCANVAS canvas);
+
+/** Writes the size of the current slice, or of the surface when there are no slices, in pixels.
+ *  \return 1; 0 for NULL, or when there are slices but none is current */
+ZORVIC_API int ZORVIC_CALL GetTextureSize(HGTEXTURE texture, SIZE* size);
+
+/** Copies a layout record in. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL SetTextureMode(HGTEXTURE texture, const TextureMode* mode);
+
+/** Copies the layout record out; all zero at creation. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GetTextureMode(HGTEXTURE texture, TextureMode* mode);
+
+/** Replaces the slices: rectangles that cut one surface into several images. The last one becomes current.
+ *  \param count  rectangles; 0 removes all
+ *  \param rects  surface pixels; not checked against the surface here, drawing does
+ *  \return count; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL SetTextureSlice(HGTEXTURE texture, unsigned int count, const RECT* rects);
+
+/** Selects the slice that size queries and drawing use.
+ *  \return the previous index (-1, none was); -1 without a change for NULL or an index outside the slices */
+ZORVIC_API int ZORVIC_CALL SetTextureCurSlice(HGTEXTURE texture, int index);
+
+/** Writes the current slice, or the whole surface when there is none. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GetTextureCurSlice(HGTEXTURE texture, RECT* slice);
+
+/** \return the number of slices; -1 for NULL */
+ZORVIC_API int ZORVIC_CALL GetTextureSliceCount(HGTEXTURE texture);
+
+/* ------------------------------------------------------------------------------------------------------ canvases */
+
+/** Creates a canvas on a 32-bit surface in heap memory, all transparent. GetCanvasHandle later turns it into a DIB
+ *  section.
+ *  \param width,height  pixels, 1..32767 each
+ *  \param reference     a canvas whose operation word the new one takes over; may be NULL
+ *  \return a canvas to be deleted with DeleteCanvas; NULL for a bad size or when memory is short */
+ZORVIC_API HGCANVAS ZORVIC_CALL CreateCanvas(int width, int height, HGCANVAS reference);
+
+/** CreateCanvas on a DIB section, with its device context made at once. */
+ZORVIC_API HGCANVAS ZORVIC_CALL CreateSystemCanvas(int width, int height, HGCANVAS reference);
+
+/** Creates a canvas that draws on a device context of the host. It has no surface: vector drawing and everything that
+ *  asks for one answers 0. The origins are read from the device context now. The device context stays the host's and
+ *  must outlive the canvas.
+ *  \return a canvas to be deleted with DeleteCanvas; NULL for NULL */
+ZORVIC_API HGCANVAS ZORVIC_CALL CreateCanvasFromDC(HDC dc);
+
+/** Deletes a canvas, its surface and its device context (not the host's). NULL is ignored. */
+ZORVIC_API void ZORVIC_CALL DeleteCanvas(HGCANVAS canvas);
+
+/** The canvas's device context, made on the first call with the canvas's clip and origins; this turns the surface into
+ *  a DIB section for good. GDI writes colour but clears or keeps alpha as it likes.
+ *  \return a device context that stays the canvas's (or the host's); NULL for NULL or when GDI refuses */
+ZORVIC_API HDC ZORVIC_CALL GetCanvasHandle(HGCANVAS canvas);
+
+/** Writes the surface's width and height in pixels. \return 1; 0 for NULL or a canvas without a surface */
+ZORVIC_API int ZORVIC_CALL GetCanvasSize(HGCANVAS canvas, SIZE* size);
+
+/** Sets the viewport origin, in pixels. The clip stays where it is on the surface.
+ *  \param previous  receives the former origin (the device context's own, once there is one); may be NULL
+ *  \return 1, or the device context's result; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL SetViewportOrg(HGCANVAS canvas, int x, int y, POINT* previous);
+
+/** Reads the viewport origin. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GetViewportOrg(HGCANVAS canvas, POINT* origin);
+
+/** Sets the window origin, as SetViewportOrg does the viewport's. */
+ZORVIC_API int ZORVIC_CALL SetWindowOrg(HGCANVAS canvas, int x, int y, POINT* previous);
+
+/** Reads the window origin. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GetWindowOrg(HGCANVAS canvas, POINT* origin);
+
+/** Maps a rectangle from logical to surface pixels, in place. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL WindowToDevice(HGCANVAS canvas, RECT* rect);
+
+/** Maps a rectangle from surface to logical pixels, in place. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL DeviceToWindow(HGCANVAS canvas, RECT* rect);
+
+/** Stores a window for the host's own use. \return the window stored before */
+ZORVIC_API HWND ZORVIC_CALL SetCanvasWindow(HGCANVAS canvas, HWND window);
+
+/** \return the stored window; at first that of the device context a canvas was made from, else NULL */
+ZORVIC_API HWND ZORVIC_CALL GetCanvasWindow(HGCANVAS canvas);
+
+/** Reads the operation word. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GetCanvasFilter(HGCANVAS canvas, DWORD* filter);
+
+/** Sets the operation word of the canvas and its surface: how it is drawn when it is a source, and whether its alpha
+ *  counts (ZORVIC_OP_SOURCE_OVER). \return 1; 0 for NULL or a canvas without a surface */
+ZORVIC_API int ZORVIC_CALL SetCanvasFilter(HGCANVAS canvas, DWORD filter);
+
+/** Stores a background colour for the host's own use. \param previous receives the former one; may be NULL
+ *  \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL SetCanvasBkColor(HGCANVAS canvas, DWORD color, DWORD* previous);
+
+/** Reads the background colour, 0 at first. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GetCanvasBkColor(HGCANVAS canvas, DWORD* color);
+
+/** Replaces the clip: nothing is drawn outside it. It is cut to the surface and does not move with the origins.
+ *  \param rect  logical pixels
+ *  \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL SetCanvasClipRect(HGCANVAS canvas, const RECT* rect);
+
+/** SetCanvasClipRect: the clip is a rectangle, the corner has no effect. */
+ZORVIC_API int ZORVIC_CALL SetCanvasClipRoundRect(HGCANVAS canvas, const RECT* rect, const RECT* corner);
+
+/** Cuts the clip to a rectangle in logical pixels. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL IntersectCanvasClipRect(HGCANVAS canvas, const RECT* rect);
+
+/** Writes the clip in logical pixels; the device context's clip box, once there is one. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GetCanvasClipRect(HGCANVAS canvas, RECT* rect);
+
+/** \return the canvas's surface, which stays the canvas's; NULL for NULL or a canvas without one */
+ZORVIC_API HGBITMAP ZORVIC_CALL GetBitmap(HGCANVAS canvas);
+
+/* ------------------------------------------------------------------------------------------- drawing bitmaps */
+
+/** Chooses the kernel of the bicubic filter, for the whole process: 0 cubic convolution with a = -1 (sharp),
+ *  1 cubic B-spline (smooth, the default), other values cubic convolution again. No other thread may be stretching.
+ *  Sources: R. Keys, "Cubic convolution interpolation for digital image processing", 1981; the B-spline is the cubic
+ *  basis spline sampled as a kernel. \return 1; 0 when this mode is set already */
+ZORVIC_API int ZORVIC_CALL SetStretchKernelMode(DWORD mode);
+
+/** \return the kernel mode of the bicubic filter */
+ZORVIC_API DWORD ZORVIC_CALL GetStretchKernelMode(void);
+
+/** DrawBitmapEx with opacity 255. */
+ZORVIC_API int ZORVIC_CALL DrawBitmap(HGCANVAS canvas, const RECT* dst, HGBITMAP bitmap, DWORD filter);
+
+/** Draws a bitmap into a rectangle of a canvas by the bitmap's operation word, stretched to fit and clipped. What is
+ *  visible has the pixels of the unclipped draw.
+ *  \param canvas  target; its origins and clip apply
+ *  \param dst     logical pixels; NULL, the bitmap's own size at (0, 0)
+ *  \param bitmap  8, 24 or 32 bits per pixel; only read
+ *  \param filter  sampling, see ZORVIC_FILTER_NEAREST
+ *  \param alpha   opacity 0..255; ignored by ZORVIC_OP_MULTIPLY and ZORVIC_OP_DESTINATION_OVER
+ *  \return 1 once both handles are valid, even if nothing was visible; else 0 */
+ZORVIC_API int ZORVIC_CALL DrawBitmapEx(HGCANVAS canvas, const RECT* dst, HGBITMAP bitmap, DWORD filter, BYTE alpha);
+
+/** DrawBitmapEx from a part of the bitmap. \param src bitmap pixels, inside the bitmap (else nothing is drawn); NULL,
+ * all */
+ZORVIC_API int ZORVIC_CALL DrawBitmapEx2(HGCANVAS canvas, const RECT* dst, HGBITMAP bitmap, const RECT* src,
+                                         DWORD filter, BYTE alpha);
+
+/** Draws a texture's current slice into a rectangle by the texture's layout and operation word.
+ *  \param dst     logical pixels
+ *  \param filter  sampling, see ZORVIC_FILTER_NEAREST
+ *  \return 1 once the handles are valid; 0 for NULL, or for a plain stretch when no slice is current */
+ZORVIC_API int ZORVIC_CALL DrawTexture(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, DWORD filter);
+
+/** DrawTexture with an opacity and scales.
+ *  \param tileScale    the bits of a float: scale of tiles and of nine-grid margins
+ *  \param doubleScale  not 0: the nine-grid's source is at scale 2 */
+ZORVIC_API int ZORVIC_CALL DrawTextureEx(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, DWORD filter, BYTE alpha,
+                                         DWORD tileScale, int doubleScale);
+
+/** DrawTexture with an opacity and scales. \param scale the nine-grid's source scale */
+ZORVIC_API int ZORVIC_CALL DrawTextureEx2(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, DWORD filter, BYTE alpha,
+                                          float tileScale, double scale);
+
+/** DrawTexture with every choice in a record. \param reserved NULL */
+ZORVIC_API int ZORVIC_CALL DrawTextureEx3(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture,
+                                          const TextureDrawParams* params, void* reserved);
+
+/* ------------------------------------------------------------------------------------------- composing canvases */
+
+/** Cross-fades one canvas into another: each channel becomes (src * (a + 1) + dst * (255 - a)) >> 8, a = 0 changing
+ *  nothing. Rectangles of different sizes are sampled to the nearest pixel. The clip does not apply.
+ *  \param dstRect,srcRect  logical pixels, wholly inside their canvases (else nothing happens)
+ *  \param value            its low byte is the amount a
+ *  \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL MixCanvas(HGCANVAS dst, const RECT* dstRect, HGCANVAS src, const RECT* srcRect, DWORD value);
+
+/** Cross-fades a rectangle of a canvas into a colour, alpha included. The clip does not apply.
+ *  \param rect   logical pixels, wholly inside the canvas (else nothing happens)
+ *  \param color  premultiplied ARGB
+ *  \param value  its low byte is the amount; 0 changes nothing, 255 replaces
+ *  \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL MixCanvasWithColor(HGCANVAS canvas, const RECT* rect, DWORD color, DWORD value);
+
+/** Draws one canvas on another. A source with ZORVIC_OP_SOURCE_OVER is composed by its alpha; otherwise it counts as
+ *  opaque and is blended by the constant alpha. Stretching is nearest. When either canvas is on a host's device
+ *  context, GDI does the transfer: AlphaBlend for a source with alpha, else StretchBlt, which ignores alpha.
+ *  \param dstRect,srcRect  logical pixels
+ *  \param alpha            opacity; without effect on a source with alpha between surfaces
+ *  \return 1, or GDI's result; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL BlendCanvas(HGCANVAS dst, const RECT* dstRect, HGCANVAS src, const RECT* srcRect,
+                                       BYTE alpha);
+
+/** Moves the whole surface dy rows, down when positive; the rows that are uncovered keep their pixels.
+ *  \param dx  0
+ *  \return 1; 0 for NULL, dx other than 0 or a canvas without a surface */
+ZORVIC_API int ZORVIC_CALL CanvasScroll(HGCANVAS canvas, int dx, int dy);
+
+/** Brings a canvas to a device context through GDI: AlphaBlend when the canvas has ZORVIC_OP_SOURCE_OVER or alpha is
+ *  below 255, else StretchBlt.
+ *  \param target  device context of a window, a printer or a bitmap
+ *  \param dst     logical units of the target
+ *  \param src     logical pixels of the canvas
+ *  \return GDI's result; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GdiTransCanvas(HDC target, const RECT* dst, HGCANVAS canvas, const RECT* src, BYTE alpha);
+
+/** Draws a bitmap at its own size in a colour. With an opaque colour the bitmap is a light map: its brightness tints
+ *  what is there. Otherwise it is multiplied by the colour and drawn over.
+ *  \param x,y     logical position of the top left corner
+ *  \param bitmap  8, 24 or 32 bits per pixel
+ *  \param src     bitmap pixels; NULL, all of it
+ *  \param color   premultiplied ARGB
+ *  \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL DrawModulation(HGCANVAS canvas, int x, int y, HGBITMAP bitmap, const RECT* src, DWORD color);
+
+/* --------------------------------------------------------------------------------------------------------- fills */
+
+/** FillSolidRectEx with ZORVIC_OP_SOURCE_OVER. A colour of alpha 0 returns 1 even without a canvas. */
+ZORVIC_API int ZORVIC_CALL FillSolidRect(HGCANVAS canvas, DWORD color, const RECT* rect);
+
+/** Fills a rectangle with a colour.
+ *  \param color  straight ARGB; premultiplied here as (channel * (alpha + 1)) >> 8
+ *  \param rect   logical pixels; clipped
+ *  \param mode   an operation word, see ZORVIC_OP_COPY; its low 24 bits are ignored, unknown operations are SOURCE_OVER
+ *  \return 1, even if nothing was visible; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL FillSolidRectEx(HGCANVAS canvas, DWORD color, const RECT* rect, DWORD mode);
+
+/** FillSolidRectEx with a colour that is premultiplied already. */
+ZORVIC_API int ZORVIC_CALL FillPreMulColorRectEx(HGCANVAS canvas, DWORD color, const RECT* rect, DWORD mode);
+
+#endif

@@ -1,0 +1,6 @@
+// The baseline form of every slot.
+#include "raster/forms/baseline.h"
+#include "raster/kernels.h"
+#include "raster/kernels_inl.h"
+
+constinit const zorvic::KernelSet zorvic::baselineKernels = zorvic::MakeKernels<zorvic::Baseline>();

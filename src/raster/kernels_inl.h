@@ -1,0 +1,155 @@
+// The loop that joins row source, operation and form, and the table of all kernels of one form.
+//
+// Only files that instantiate kernels include this. Everything it compiles stands in unnamed namespaces, because the
+// linker keeps one copy of a shared inline function, of std:: ones too, and might keep the one with wider instructions.
+#pragma once
+
+#include <concepts>
+#include <type_traits>
+
+#include "raster/kernel_set.h"
+#include "raster/ops/channels.h"
+#include "raster/ops/compose.h"
+#include "raster/ops/mix.h"
+#include "raster/rows/nearest.h"
+#include "raster/rows/solid.h"
+#include "raster/rows/unscaled.h"
+
+namespace zorvic {
+namespace {
+
+constexpr int chunk = 256;  // pixels fetched at once: 1 KiB stays in the first cache
+
+template <Form V>
+V Samples(const std::uint32_t* samples, int i) {
+    return V::Load(samples + i);
+}
+
+template <Form V>
+V Samples(SolidColor solid, int) {
+    return V::Broadcast(solid.color);
+}
+
+// Applies the operation to n pixels. The last ones go through the same operation on a padded vector.
+template <Form V, class Op, class Source>
+void ApplySpan(const Op& op, std::uint32_t* dst, Source src, int n) {
+    int i = 0;
+    for (; i + V::lanes <= n; i += V::lanes) op(V::Load(dst + i), Samples<V>(src, i)).Store(dst + i);
+    if constexpr (V::lanes > 1) {
+        if (i == n) return;
+        std::uint32_t padded[V::lanes] = {}, samples[V::lanes] = {};
+        for (int k = 0; k < n - i; ++k) {
+            padded[k] = dst[i + k];
+            if constexpr (std::is_pointer_v<Source>) samples[k] = src[i + k];
+        }
+        if constexpr (std::is_pointer_v<Source>) {
+            op(V::Load(padded), V::Load(samples)).Store(padded);
+        } else {
+            op(V::Load(padded), Samples<V>(src, 0)).Store(padded);
+        }
+        for (int k = 0; k < n - i; ++k) dst[i + k] = padded[k];
+    }
+}
+
+// The only loop over pixels.
+template <Form V, class Source, class Operation>
+int RunKernel(const BitmapLockInfo& dst, const Source& rows, const Operation& op) {
+    alignas(32) std::uint32_t scratch[chunk];
+    auto* row = static_cast<std::byte*>(dst.bmBits);
+    for (int y = 0; y < dst.bmHeight; ++y, row += dst.bmWidthBytes)
+        for (int x = 0; x < dst.bmWidth; x += chunk) {
+            const int n = dst.bmWidth - x < chunk ? dst.bmWidth - x : chunk;
+            ApplySpan<V>(op, reinterpret_cast<std::uint32_t*>(row) + x, rows.Fetch(y, x, n, scratch), n);
+        }
+    return 1;
+}
+
+// Names of rows and operations to the types that do them. Filtered rows are sampled to the nearest pixel so far.
+template <Rows rows, SourceDepth depth>
+struct RowSource {
+    using Type = NearestRows<depth>;
+};
+template <SourceDepth depth>
+struct RowSource<Rows::unscaled, depth> {
+    using Type = UnscaledRows<depth>;
+};
+
+template <Op op>
+struct Operator;
+// clang-format off
+template <> struct Operator<Op::copy> { using Type = Copy; };
+template <> struct Operator<Op::sourceOver> { using Type = SourceOver; };
+template <> struct Operator<Op::constantAlpha> { using Type = ConstantAlpha; };
+template <> struct Operator<Op::opaqueAlpha> { using Type = OpaqueAlpha; };
+template <> struct Operator<Op::colorKey> { using Type = ColorKey; };
+template <> struct Operator<Op::multiply> { using Type = Multiply; };
+template <> struct Operator<Op::destinationOver> { using Type = DestinationOver; };
+template <> struct Operator<Op::bitOr> { using Type = BitOr; };
+template <> struct Operator<Op::grayWash> { using Type = GrayWash; };
+template <> struct Operator<Op::crossFade> { using Type = CrossFade; };
+template <> struct Operator<Op::mixColor> { using Type = MixColor; };
+template <> struct Operator<Op::makeOpaque> { using Type = MakeOpaque; };
+// clang-format on
+
+// A kernel's entry point: turns the argument list into a row source and an operation.
+template <Form V, Rows rows, Op op, SourceDepth depth, class Kernel>
+struct Entry;
+
+template <Form V, Rows rows, Op op, SourceDepth depth, class... Args>
+struct Entry<V, rows, op, depth, int (*)(const BitmapLockInfo&, const BitmapLockInfo&, Args...)> {
+    static int Run(const BitmapLockInfo& dst, const BitmapLockInfo& src, Args... args) {
+        return RunKernel<V>(dst, typename RowSource<rows, depth>::Type(src, WholeOf(dst)),
+                            typename Operator<op>::Type(args...));
+    }
+};
+
+template <Form V, Rows rows, Op op, SourceDepth depth, class... Args>
+struct Entry<V, rows, op, depth, int (*)(const BitmapLockInfo&, const Placement&, const BitmapLockInfo&, Args...)> {
+    static int Run(const BitmapLockInfo& dst, const Placement& placement, const BitmapLockInfo& src, Args... args) {
+        return RunKernel<V>(dst, typename RowSource<rows, depth>::Type(src, placement),
+                            typename Operator<op>::Type(args...));
+    }
+};
+
+template <Form V, Op op, SourceDepth depth, std::same_as<std::uint32_t>... Args>
+struct Entry<V, Rows::solid, op, depth, int (*)(const BitmapLockInfo&, std::uint32_t, Args...)> {
+    static int Run(const BitmapLockInfo& dst, std::uint32_t color, Args... args) {
+        return RunKernel<V>(dst, SolidRows(color), typename Operator<op>::Type(args...));
+    }
+};
+
+template <Form V, Op op, SourceDepth depth>
+struct Entry<V, Rows::solid, op, depth, InPlace> {
+    static int Run(const BitmapLockInfo& dst) { return RunKernel<V>(dst, SolidRows(0), typename Operator<op>::Type()); }
+};
+
+template <Form V, auto slot, SourceDepth depth, class Kernel>
+constexpr void AddKernel(KernelSet& set, Slot<Kernel> target) {
+    set.Put(target, Entry<V, slot.rows, slot.op, depth, Kernel>::Run);
+}
+
+template <Form V, auto slot, class Kernel>
+constexpr void AddKernels(KernelSet& set, Slot<Kernel> single) {
+    AddKernel<V, slot, SourceDepth::argb32>(set, single);
+}
+
+template <Form V, auto slot, class Kernel>
+constexpr void AddKernels(KernelSet& set, Group<Kernel> group) {
+    AddKernel<V, slot, SourceDepth::palette8>(set, group[SourceDepth::palette8]);
+    AddKernel<V, slot, SourceDepth::rgb24>(set, group[SourceDepth::rgb24]);
+    AddKernel<V, slot, SourceDepth::argb32>(set, group[SourceDepth::argb32]);
+}
+
+// Every slot's kernel in one form.
+template <Form V>
+consteval KernelSet MakeKernels() {
+    KernelSet set;
+    [&]<std::size_t... i>(std::index_sequence<i...>) {
+        (AddKernels<V, std::get<i>(slots::all)>(set, std::get<i>(slots::all)), ...);
+    }
+    (std::make_index_sequence<std::tuple_size_v<decltype(slots::all)>>());
+    return set;
+}
+
+}  // namespace
+}  // namespace zorvic

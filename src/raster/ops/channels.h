@@ -1,0 +1,40 @@
+// Operations that treat the four channels alike, or wash colour into grey.
+#pragma once
+
+#include "raster/forms/form.h"
+
+namespace zorvic {
+namespace {
+
+struct Multiply {
+    template <Form V>
+    V operator()(V dst, V src) const {
+        return MultiplyBytes(src, dst);
+    }
+};
+
+struct BitOr {
+    template <Form V>
+    V operator()(V dst, V src) const {
+        return dst | src;
+    }
+};
+
+struct MakeOpaque {
+    template <Form V>
+    V operator()(V dst, V) const {
+        return dst | V::Broadcast(0xFF000000);
+    }
+};
+
+// Adds the pixel's grey by the sample's alpha to what the pixel's own alpha leaves of its colour.
+struct GrayWash {
+    template <Form V>
+    V operator()(V dst, V src) const {
+        const V gray = Scale(Luma(dst), AlphaWeight(src));
+        return WithAlphaOf(AddBytes(Scale(dst, InverseAlpha(dst)), gray), dst);
+    }
+};
+
+}  // namespace
+}  // namespace zorvic
