@@ -20,14 +20,14 @@
 #include "zorvic/types.h"
 
 #ifdef __cplusplus
-    #define ZORVIC_EXTERN extern "C"
+#define ZORVIC_EXTERN extern "C"
 #else
-    #define ZORVIC_EXTERN extern
+#define ZORVIC_EXTERN extern
 #endif
 #ifdef ZORVIC_BUILD
-    #define ZORVIC_API ZORVIC_EXTERN
+#define ZORVIC_API ZORVIC_EXTERN
 #else
-    #define ZORVIC_API ZORVIC_EXTERN __declspec(dllimport)
+#define ZORVIC_API ZORVIC_EXTERN __declspec(dllimport)
 #endif
 #define ZORVIC_CALL __cdecl
 
@@ -302,8 +302,8 @@ ZORVIC_API int ZORVIC_CALL DrawBitmap(HGCANVAS canvas, const RECT* dst, HGBITMAP
  *  \return 1 once both handles are valid, even if nothing was visible; else 0 */
 ZORVIC_API int ZORVIC_CALL DrawBitmapEx(HGCANVAS canvas, const RECT* dst, HGBITMAP bitmap, DWORD filter, BYTE alpha);
 
-/** DrawBitmapEx from a part of the bitmap. \param src bitmap pixels, inside the bitmap (else nothing is drawn); NULL,
- * all */
+/** DrawBitmapEx from a part of the bitmap.
+ *  \param src  bitmap pixels, inside the bitmap (else nothing is drawn); NULL, all of it */
 ZORVIC_API int ZORVIC_CALL DrawBitmapEx2(HGCANVAS canvas, const RECT* dst, HGBITMAP bitmap, const RECT* src,
                                          DWORD filter, BYTE alpha);
 
