@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <new>
 
 #include "surface/pixel_store.h"
 
@@ -51,6 +52,14 @@ private:
     StoreKind kind = StoreKind::memory;
     bool ownsStore = true;
 };
+
+// A new bitmap or texture; null for a bad size or depth, or when memory is short.
+template <class Surface>
+std::unique_ptr<Surface> MakeSurface(int width, int height, int bitsPixel, int colorCount, StoreKind kind) {
+    std::unique_ptr<Surface> surface(new (std::nothrow) Surface);
+    if (surface && !surface->Create(width, height, bitsPixel, colorCount, kind)) surface.reset();
+    return surface;
+}
 
 // Copies pixels, palette and operation word; see CopyBitmap in the public header.
 void CopyPixels(Bitmap& dst, const RECT* dstArea, const Bitmap& src, const RECT* srcArea);

@@ -9,6 +9,12 @@
 
 namespace zorvic {
 
+// A locked image without a palette, or with one.
+BitmapLockInfo ToLockInfo(const BITMAP& image, std::uint16_t colorCount = 0, DWORD* palette = nullptr);
+
+// Cuts the description of a whole surface down to an area of it; false unless the area is non-empty and inside.
+bool CutToArea(BITMAP& image, const RECT& area);
+
 enum class StoreKind : std::uint8_t { memory = 0, system = 1 };
 
 class PixelStore {
@@ -73,6 +79,8 @@ public:
     HBITMAP Handle() const { return handle; }
 
 private:
+    BITMAP Describe() const;  // all zero without pixels
+
     HBITMAP handle = nullptr;
 };
 

@@ -1,6 +1,7 @@
 // The object behind HGTEXTURE: a bitmap with a layout mode and slices.
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "surface/bitmap.h"
@@ -9,15 +10,27 @@ namespace zorvic {
 
 class Texture final : public Bitmap {
 public:
-    ~Texture() override = default;
+    // Detaches here, so that the resource manager still meets a whole texture.
+    ~Texture() override { Detach(); }
 
+    // Replaces the slices and makes the last one current; false when memory is short.
+    bool SetSlices(const RECT* rects, std::size_t count);
+    // Returns the previous index; -1 without a change for an index outside the slices.
+    int SelectSlice(int index);
     // The current slice's rectangle; null when there is none (no slices, or no valid index).
     const RECT* CurrentSlice() const;
+    // The current slice, or the whole surface when there is none.
+    RECT SliceOrAll() const;
+    // The current slice's size, or the surface's when there are no slices; false when there are, but none is current.
+    bool ImageSize(SIZE& size) const;
 
     TextureMode mode{};
     std::vector<RECT> slices;
     int curSlice = -1;
 };
+
+// A texture with the bitmap's pixels and operation word; what is left of the bitmap dies here.
+std::unique_ptr<Texture> IntoTexture(std::unique_ptr<Bitmap> bitmap);
 
 inline Texture* FromHandle(HGTEXTURE handle) { return reinterpret_cast<Texture*>(handle); }
 inline HGTEXTURE ToHandle(const Texture* texture) { return reinterpret_cast<HGTEXTURE>(const_cast<Texture*>(texture)); }

@@ -1,0 +1,116 @@
+// The bitmap object: making, sharing, locking and converting its pixel store.
+#include "surface/bitmap.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "raster/kernel_table.h"
+#include "zorvic/zorvic.h"
+
+namespace zorvic {
+
+constinit ResourceManager* RegisteredManager = nullptr;
+
+namespace {
+
+constexpr bool IsExtent(int pixels) { return pixels >= 1 && pixels <= maxExtent; }
+
+// std::make_shared that answers null when memory is short.
+template <class Store>
+std::shared_ptr<Store> MakeStore() {
+    try {
+        return std::make_shared<Store>();
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+}  // namespace
+
+Bitmap::~Bitmap() { ReleaseStore(); }
+
+void Bitmap::ReleaseStore() {
+    if (store && RegisteredManager) RegisteredManager->OnRelease(ToHandle(this));
+    Forget();
+}
+
+bool Bitmap::Create(int width, int height, int bitsPixel, int colorCount, StoreKind newKind) {
+    ReleaseStore();
+    if (!IsExtent(width) || !IsExtent(height) || bitsPixel < 1 || bitsPixel > 32) return false;
+
+    std::shared_ptr<PixelStore> newStore;
+    if (newKind == StoreKind::system)
+        newStore = MakeStore<DibPixelStore>();
+    else
+        newStore = MakeStore<MemoryPixelStore>();
+    BITMAP description{};
+    description.bmWidth = width;
+    description.bmHeight = height;
+    description.bmBitsPixel = static_cast<WORD>(bitsPixel);
+    const int colors = std::clamp<int>(colorCount, 0, std::numeric_limits<std::uint16_t>::max());
+    if (!newStore || !newStore->Create(&description, static_cast<std::uint16_t>(colors))) return false;
+    store = std::move(newStore);
+    kind = newKind;
+    return true;
+}
+
+bool Bitmap::Attach(const Bitmap* other, bool borrow) {
+    ReleaseStore();
+    if (!other || !other->store || other->store->IsEmpty()) return false;
+    store = other->store;
+    kind = other->kind;
+    filter = other->filter;
+    ownsStore = !borrow;
+    return true;
+}
+
+void Bitmap::Detach() { ReleaseStore(); }
+
+void Bitmap::Forget() {
+    store.reset();
+    ownsStore = true;
+    filter = 0;
+}
+
+bool Bitmap::Lock(BITMAP* out, const RECT* area) const { return store && store->Lock(out, area); }
+bool Bitmap::LockEx(BitmapLockInfo* out, const RECT* area) const { return store && store->LockEx(out, area); }
+
+void Bitmap::Unlock() const {
+    if (store) store->Unlock();
+}
+
+SIZE Bitmap::Size() const {
+    if (!store) return {};
+    return {static_cast<LONG>(store->GetWidth()), static_cast<LONG>(store->GetHeight())};
+}
+
+std::uint8_t Bitmap::BitsPixel() const { return store ? store->GetBitsPixel() : std::uint8_t{0}; }
+std::uint16_t Bitmap::ColorCount() const { return store ? store->GetColorCount() : std::uint16_t{0}; }
+
+HBITMAP Bitmap::ToSystem() {
+    if (!store) return nullptr;
+    if (kind == StoreKind::system) return static_cast<const DibPixelStore&>(*store).Handle();
+    if (!ownsStore) return nullptr;
+
+    const auto dib = MakeStore<DibPixelStore>();
+    if (!dib) return nullptr;
+    if (const SurfaceLock src(*this); src) {
+        BITMAP description{};
+        description.bmWidth = src->bmWidth;
+        description.bmHeight = src->bmHeight;
+        BitmapLockInfo dst;
+        if (dib->Create(&description, 0) && dib->LockEx(&dst, nullptr))
+            KernelTable.At(slots::copySameSize, DepthOf(src->bmBitsPixel))(dst, *src);
+    }
+    // The kind changes for good and the old pixels go, even when they could not be locked or GDI made no new ones.
+    store = dib;
+    kind = StoreKind::system;
+    return dib->Handle();
+}
+
+void NotifyChange(Bitmap& bitmap, DWORD value) {
+    if (RegisteredManager) RegisteredManager->OnChange(ToHandle(&bitmap), value);
+}
+
+}  // namespace zorvic

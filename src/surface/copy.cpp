@@ -1,0 +1,60 @@
+// Copies between surfaces: rows and palette of one format, or any format widened to 32 bits.
+#include <algorithm>
+#include <cstring>
+#include <functional>
+
+#include "raster/kernel_table.h"
+#include "raster/lookup_tables.h"
+#include "surface/bitmap.h"
+
+namespace zorvic {
+
+namespace {
+
+// Both images have one size and depth. Rows of one surface may overlap: copying starts at the end that is not read any
+// more.
+void CopyRows(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
+    const std::size_t rowBytes = static_cast<std::size_t>(src.bmWidth) * (src.bmBitsPixel / 8U);
+    const bool upward = std::greater<>()(dst.bmBits, src.bmBits);
+    for (int i = 0; i < src.bmHeight; ++i) {
+        const std::ptrdiff_t y = upward ? src.bmHeight - 1 - i : i;
+        std::memmove(static_cast<std::byte*>(dst.bmBits) + y * dst.bmWidthBytes,
+                     static_cast<const std::byte*>(src.bmBits) + y * src.bmWidthBytes, rowBytes);
+    }
+}
+
+void CopyPalette(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
+    if (dst.palette == src.palette) return;
+    // The grey ramp is every such surface's: a surface that shows it goes on doing so.
+    if (dst.palette == GreyPalette.data()) return;
+    std::copy_n(src.palette, src.colorCount, dst.palette);
+}
+
+}  // namespace
+
+void CopyPixels(Bitmap& dst, const RECT* dstArea, const Bitmap& src, const RECT* srcArea) {
+    const SurfaceLock from(src, srcArea);
+    if (!from || !SurfaceLock(dst, dstArea)) return;  // the whole area must lie inside, although it only places the copy
+
+    const POINT corner = dstArea ? POINT{dstArea->left, dstArea->top} : POINT{};
+    const SIZE surface = dst.Size();
+    const RECT placed{corner.x, corner.y, std::min(corner.x + from->bmWidth, surface.cx),
+                      std::min(corner.y + from->bmHeight, surface.cy)};
+    const SurfaceLock to(dst, &placed);
+    if (!to) return;
+    BitmapLockInfo cut = *from;
+    cut.bmWidth = to->bmWidth;
+    cut.bmHeight = to->bmHeight;
+
+    if (to->bmBitsPixel == cut.bmBitsPixel && to->colorCount == cut.colorCount) {
+        CopyRows(*to, cut);
+        CopyPalette(*to, cut);
+    } else if (to->bmBitsPixel == 32) {
+        KernelTable.At(slots::copySameSize, DepthOf(cut.bmBitsPixel))(*to, cut);
+    } else {
+        return;
+    }
+    dst.filter = src.filter;
+}
+
+}  // namespace zorvic
