@@ -137,6 +137,9 @@ public:
     virtual void OnRelease(HGBITMAP bitmap) = 0;
     /** The pixels of the bitmap were changed; value is what UnlockBitmapBits was given, 0 for effects. */
     virtual void OnChange(HGBITMAP bitmap, DWORD value) = 0;
+
+protected:
+    ~ResourceManager() = default;
 };
 #else
 typedef struct ResourceManager ResourceManager;
