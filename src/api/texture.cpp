@@ -13,8 +13,7 @@ HGTEXTURE ZORVIC_CALL CreateTexture(int width, int height) { return CreateTextur
 
 HGTEXTURE ZORVIC_CALL CreateTextureEx(int width, int height, int bitsPixel, int colorCount) {
     using zorvic::StoreKind;
-    return ToHandle(
-        zorvic::MakeSurface<Texture>(width, height, bitsPixel, colorCount, StoreKind::memory).release());
+    return ToHandle(zorvic::MakeSurface<Texture>(width, height, bitsPixel, colorCount, StoreKind::memory).release());
 }
 
 HGTEXTURE ZORVIC_CALL GetTexture(HGCANVAS canvas) {

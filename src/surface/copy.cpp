@@ -34,7 +34,8 @@ void CopyPalette(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
 
 void CopyPixels(Bitmap& dst, const RECT* dstArea, const Bitmap& src, const RECT* srcArea) {
     const SurfaceLock from(src, srcArea);
-    if (!from || !SurfaceLock(dst, dstArea)) return;  // the whole area must lie inside, although it only places the copy
+    if (!from || !SurfaceLock(dst, dstArea))
+        return;  // the whole area must lie inside, although it only places the copy
 
     const POINT corner = dstArea ? POINT{dstArea->left, dstArea->top} : POINT{};
     const SIZE surface = dst.Size();

@@ -12,7 +12,8 @@ bool DibPixelStore::Create(BITMAP* description, std::uint16_t) {
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
-    info.bmiHeader.biSizeImage = static_cast<DWORD>(description->bmWidth) * static_cast<DWORD>(description->bmHeight) * 4;
+    info.bmiHeader.biSizeImage =
+        static_cast<DWORD>(description->bmWidth) * static_cast<DWORD>(description->bmHeight) * 4;
     handle = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, nullptr, nullptr, 0);
     if (!handle) return false;
     *description = Describe();

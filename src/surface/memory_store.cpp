@@ -67,7 +67,8 @@ bool MemoryPixelStore::LockEx(BitmapLockInfo* out, const RECT* area) const {
         *out = ToLockInfo(image);
     } else if (colorCount == 0) {
         // Nobody writes through it: see CopyPixels.
-        *out = ToLockInfo(image, static_cast<std::uint16_t>(GreyPalette.size()), const_cast<DWORD*>(GreyPalette.data()));
+        *out =
+            ToLockInfo(image, static_cast<std::uint16_t>(GreyPalette.size()), const_cast<DWORD*>(GreyPalette.data()));
     } else {
         *out = ToLockInfo(image, colorCount, reinterpret_cast<DWORD*>(block.get()));
     }

@@ -78,7 +78,8 @@ private:
 struct Pattern {
     std::uint32_t seed = 1;
     DWORD operator()(int x, int y) const {
-        std::uint32_t word = seed * 0x9E3779B9U + static_cast<std::uint32_t>(y) * 0x85EBCA6BU + static_cast<std::uint32_t>(x);
+        std::uint32_t word =
+            seed * 0x9E3779B9U + static_cast<std::uint32_t>(y) * 0x85EBCA6BU + static_cast<std::uint32_t>(x);
         word = (word ^ word >> 16) * 0x7FEB352DU;
         word = (word ^ word >> 15) * 0x846CA68BU;
         return word ^ word >> 16;
@@ -154,8 +155,8 @@ inline bool Inside(const RECT& rect, int x, int y) {
 
 // For failure messages.
 inline std::string ToText(const RECT& rect) {
-    return "{" + std::to_string(rect.left) + ", " + std::to_string(rect.top) + ", " + std::to_string(rect.right) + ", " +
-           std::to_string(rect.bottom) + "}";
+    return "{" + std::to_string(rect.left) + ", " + std::to_string(rect.top) + ", " + std::to_string(rect.right) +
+           ", " + std::to_string(rect.bottom) + "}";
 }
 
 }  // namespace host

@@ -1,0 +1,89 @@
+// The host's resource manager: which calls it hears, and what it may still ask about a bitmap that goes.
+#include <functional>
+#include <string>
+
+#include "support/host.h"
+
+namespace {
+
+using namespace host;
+
+class Recorder final : public ResourceManager {
+public:
+    Recorder() { EXPECT_EQ(RegisterD2DResoureMgr(this), this); }
+    ~Recorder() { EXPECT_EQ(RegisterD2DResoureMgr(nullptr), nullptr); }
+    Recorder(const Recorder&) = delete;
+    Recorder& operator=(const Recorder&) = delete;
+
+    void OnRelease(HGBITMAP bitmap) override {
+        log += "release;";
+        last = bitmap;
+        if (whileReleasing) whileReleasing();
+    }
+    void OnChange(HGBITMAP bitmap, DWORD value) override {
+        log += "change " + std::to_string(value) + ";";
+        last = bitmap;
+    }
+
+    std::string log;
+    HGBITMAP last = nullptr;
+    std::function<void()> whileReleasing;
+};
+
+TEST(ResourceManager, HearsOfChangesAndReleases) {
+    OwnedBitmap bitmap = MakeBitmap(4, 4);
+    const HGBITMAP handle = bitmap.get();
+    Recorder manager;
+    UnlockBitmapBits(handle, 7, 0);
+    GetBitmapHandle(handle);
+    EXPECT_EQ(OwnedBitmap(CreateMemBitmap(0, 1)), nullptr);
+    EXPECT_EQ(manager.log, "");
+    UnlockBitmapBits(handle, 7, 1);
+    EXPECT_EQ(manager.log, "change 7;");
+    EXPECT_EQ(manager.last, handle);
+
+    Fill(handle, Pattern{});
+    manager.whileReleasing = [&] { EXPECT_TRUE(Shows(handle, Pattern{})) << "the pixels are still there"; };
+    bitmap.reset();
+    EXPECT_EQ(manager.log, "change 7;release;");
+    EXPECT_EQ(manager.last, handle);
+}
+
+TEST(ResourceManager, PixelsThatMoveIntoATextureAreNotReleased) {
+    OwnedBitmap bitmap = MakeBitmap(4, 4);
+    Recorder manager;
+    OwnedTexture texture(BitmapToTexture(bitmap.release()));
+    EXPECT_EQ(manager.log, "");
+
+    const RECT slices[2]{};
+    SetTextureSlice(texture.get(), 2, slices);
+    const HGTEXTURE handle = texture.get();
+    manager.whileReleasing = [=] { EXPECT_EQ(GetTextureSliceCount(handle), 2) << "the texture is still whole"; };
+    texture.reset();
+    EXPECT_EQ(manager.log, "release;");
+    EXPECT_EQ(manager.last, AsBitmap(handle));
+}
+
+TEST(ResourceManager, HearsOfEachViewOfACanvas) {
+    Recorder manager;
+    OwnedCanvas canvas(CreateCanvas(4, 4, nullptr));
+    OwnedTexture view(GetTexture(canvas.get()));
+    const HGBITMAP surface = GetBitmap(canvas.get());
+    EXPECT_EQ(manager.log, "");
+    view.reset();
+    EXPECT_EQ(manager.log, "release;");
+    canvas.reset();
+    EXPECT_EQ(manager.log, "release;release;");
+    EXPECT_EQ(manager.last, surface);
+}
+
+TEST(ResourceManager, HearsNothingOnceItIsUnregistered) {
+    OwnedBitmap bitmap = MakeBitmap(4, 4);
+    Recorder manager;
+    RegisterD2DResoureMgr(nullptr);
+    UnlockBitmapBits(bitmap.get(), 1, 1);
+    bitmap.reset();
+    EXPECT_EQ(manager.log, "");
+}
+
+}  // namespace
