@@ -3,9 +3,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
+#include "canvas/memory_dc.h"
 #include "surface/bitmap.h"
-#include "surface/pixel_store.h"
 
 namespace zorvic {
 
@@ -19,31 +20,34 @@ public:
 
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
-    ~Canvas();
 
     // The device context: the host's, or the surface's own, made on the first call. Null when GDI refuses.
     HDC MakeDc();
 
+    // Sets an origin. Returns 1, or the device context's result once there is one.
     int SetViewportOrg(POINT origin, POINT* previous);
     int SetWindowOrg(POINT origin, POINT* previous);
     POINT ViewportOrg() const { return viewportOrg; }
     POINT WindowOrg() const { return windowOrg; }
 
-    RECT ToDevice(RECT logical) const;
-    RECT ToLogical(RECT device) const;
+    RECT ToDevice(const RECT& logical) const;
+    RECT ToLogical(const RECT& device) const;
 
     void SetClip(const RECT& logical);
     void IntersectClip(const RECT& logical);
-    // The visible rectangle in logical pixels: the clip, or the device context's clip box once there is one.
+    // The clip in logical pixels, as the host sees it: the device context's clip box, once there is one.
+    RECT ClipBox() const;
+    // What drawing is clipped to, in logical pixels: the clip, or the clip box of a host's device context.
     RECT VisibleRect() const;
 
     // The operation word: mirrors the surface's. False without a surface.
     bool SetFilter(DWORD word);
     DWORD Filter() const { return filter; }
 
+    // Null for a canvas on a host's device context.
     Bitmap* Surface() const { return surface.get(); }
-    // Takes the surface out, for CanvasToTexture; the canvas is then only good for deletion.
-    std::unique_ptr<Bitmap> TakeSurface();
+    // Takes the surface out; the canvas is then only good for deletion.
+    std::unique_ptr<Bitmap> TakeSurface() { return std::move(surface); }
 
     HWND window = nullptr;  // the host's
     DWORD bkColor = 0;      // the host's
@@ -52,29 +56,22 @@ private:
     friend class CanvasLock;
     Canvas() = default;
 
-    bool LockBits(BITMAP* out, const RECT& logicalArea);
-    void UnlockBits();
-    // ... device-context access: see canvas_access.cpp
+    HDC Dc() const { return memoryDc ? memoryDc->Get() : hostDc; }  // null until there is one
 
-    bool fromDc = false;
-    HDC dc = nullptr;
-    HGDIOBJ previousObject = nullptr;
+    HDC hostDc = nullptr;
     POINT viewportOrg{};
     POINT windowOrg{};
+    RECT clip{};  // surface pixels
     DWORD filter = 0;
     std::unique_ptr<Bitmap> surface;
-    RECT clip{};  // surface pixels
-
-    RECT dcAccessRect{};
-    HDC dcAccessDc = nullptr;
-    DibPixelStore dcTempStore;
-    BITMAP dcBitmap{};
+    std::optional<MemoryDc> memoryDc;  // after the surface, whose bitmap it lets go of first
 };
 
 inline Canvas* FromHandle(HGCANVAS handle) { return reinterpret_cast<Canvas*>(handle); }
 inline HGCANVAS ToHandle(const Canvas* canvas) { return reinterpret_cast<HGCANVAS>(const_cast<Canvas*>(canvas)); }
 
 // Pixels of an area of a canvas, given in logical pixels, for reading and writing; written back with the scope's end.
+// Several locks of one canvas may be held; what they write is brought back in the reverse order of locking.
 class CanvasLock {
 public:
     CanvasLock(Canvas& lockedCanvas, const RECT& logicalArea);
@@ -83,12 +80,22 @@ public:
     CanvasLock& operator=(const CanvasLock&) = delete;
 
     explicit operator bool() const { return locked; }
+    // Always 32 bits per pixel, rows top-down, no palette.
     const BitmapLockInfo& operator*() const { return info; }
     const BitmapLockInfo* operator->() const { return &info; }
 
 private:
+    enum class DcAccess { direct, copy, outside };
+
+    DcAccess DescribeDcPixels();
+    bool DcShows(const BITMAP& image, const RECT& device) const;
+    bool CopyFromDc();
+    void WriteBack() const;
+
     Canvas& canvas;
+    const RECT area;
     BitmapLockInfo info{};
+    DibPixelStore copy;  // of the area of a device context whose own pixels cannot be reached
     bool locked;
 };
 

@@ -1,0 +1,103 @@
+// Canvases: making them, origins, clip, operation word and device context.
+#include "canvas/canvas.h"
+
+#include <new>
+
+#include "canvas/rect.h"
+#include "raster/kernel_table.h"
+
+namespace zorvic {
+
+namespace {
+
+// Replaces the clip region by a rectangle in device pixels.
+void SelectClip(HDC dc, const RECT& device) {
+    const HRGN region = CreateRectRgnIndirect(&device);
+    ExtSelectClipRgn(dc, region, RGN_COPY);
+    DeleteObject(region);
+}
+
+RECT ClipBoxOf(HDC dc) {
+    RECT box{};
+    GetClipBox(dc, &box);
+    return box;
+}
+
+}  // namespace
+
+std::unique_ptr<Canvas> Canvas::Create(int width, int height, StoreKind kind, const Canvas* reference) {
+    std::unique_ptr<Canvas> canvas(new (std::nothrow) Canvas);
+    if (!canvas) return nullptr;
+    canvas->surface = MakeSurface<Bitmap>(width, height, 32, 0, kind);
+    if (!canvas->surface) return nullptr;
+    canvas->clip = {0, 0, width, height};
+    if (kind == StoreKind::system) canvas->MakeDc();
+    if (const SurfaceLock pixels(*canvas->surface); pixels) KernelTable.At(slots::fillCopy)(*pixels, 0);
+    if (reference) canvas->SetFilter(reference->filter);
+    return canvas;
+}
+
+std::unique_ptr<Canvas> Canvas::FromDc(HDC hostDc) {
+    if (!hostDc) return nullptr;
+    std::unique_ptr<Canvas> canvas(new (std::nothrow) Canvas);
+    if (!canvas) return nullptr;
+    canvas->hostDc = hostDc;
+    canvas->window = WindowFromDC(hostDc);
+    GetViewportOrgEx(hostDc, &canvas->viewportOrg);
+    GetWindowOrgEx(hostDc, &canvas->windowOrg);
+    return canvas;
+}
+
+HDC Canvas::MakeDc() {
+    if (Dc()) return Dc();
+    const HDC dc = memoryDc.emplace(surface->ToSystem()).Get();
+    if (!dc) return nullptr;
+    SelectClip(dc, clip);
+    SetViewportOrgEx(dc, viewportOrg.x, viewportOrg.y, nullptr);
+    SetWindowOrgEx(dc, windowOrg.x, windowOrg.y, nullptr);
+    return dc;
+}
+
+int Canvas::SetViewportOrg(POINT origin, POINT* previous) {
+    if (!Dc() && previous) *previous = viewportOrg;
+    viewportOrg = origin;
+    return Dc() ? SetViewportOrgEx(Dc(), origin.x, origin.y, previous) : 1;
+}
+
+int Canvas::SetWindowOrg(POINT origin, POINT* previous) {
+    if (!Dc() && previous) *previous = windowOrg;
+    windowOrg = origin;
+    return Dc() ? SetWindowOrgEx(Dc(), origin.x, origin.y, previous) : 1;
+}
+
+RECT Canvas::ToDevice(const RECT& logical) const { return Offset(logical, viewportOrg - windowOrg); }
+RECT Canvas::ToLogical(const RECT& device) const { return Offset(device, windowOrg - viewportOrg); }
+
+void Canvas::SetClip(const RECT& logical) {
+    const RECT device = ToDevice(logical);
+    if (Dc()) SelectClip(Dc(), device);
+    if (!surface) return;
+    const SIZE size = surface->Size();
+    const RECT whole{0, 0, size.cx, size.cy};
+    IntersectRect(&clip, &device, &whole);
+}
+
+void Canvas::IntersectClip(const RECT& logical) {
+    if (Dc()) IntersectClipRect(Dc(), logical.left, logical.top, logical.right, logical.bottom);
+    const RECT device = ToDevice(logical);
+    const RECT former = clip;
+    IntersectRect(&clip, &former, &device);
+}
+
+RECT Canvas::ClipBox() const { return Dc() ? ClipBoxOf(Dc()) : ToLogical(clip); }
+
+RECT Canvas::VisibleRect() const { return surface ? ToLogical(clip) : ClipBoxOf(hostDc); }
+
+bool Canvas::SetFilter(DWORD word) {
+    if (!surface) return false;
+    filter = word;
+    surface->filter = word;
+    return true;
+}
+
+}  // namespace zorvic

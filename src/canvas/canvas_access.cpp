@@ -1,0 +1,89 @@
+// Pixels of an area of a canvas: the surface's own; on a host's device context those of the selected DIB section, or a
+// copy that is written back at the end.
+#include "canvas/canvas.h"
+#include "canvas/rect.h"
+
+namespace zorvic {
+
+CanvasLock::CanvasLock(Canvas& lockedCanvas, const RECT& logicalArea) : canvas(lockedCanvas), area(logicalArea) {
+    if (canvas.surface) {
+        const RECT device = canvas.ToDevice(area);
+        locked = canvas.surface->LockEx(&info, &device);
+        return;
+    }
+    const DcAccess access = IsRectEmpty(&area) ? DcAccess::outside : DescribeDcPixels();
+    locked = access == DcAccess::direct || (access == DcAccess::copy && CopyFromDc());
+}
+
+CanvasLock::~CanvasLock() {
+    if (!locked) return;
+    if (!copy.IsEmpty()) WriteBack();
+    if (canvas.surface) canvas.surface->Unlock();
+}
+
+CanvasLock::DcAccess CanvasLock::DescribeDcPixels() {
+    const HDC dc = canvas.hostDc;
+    RECT clipBox{};
+    RECT visible;
+    const int regionType = GetClipBox(dc, &clipBox);
+    IntersectRect(&visible, &clipBox, &area);
+    BITMAP image{};
+    GetObjectW(GetCurrentObject(dc, OBJ_BITMAP), sizeof image, &image);
+    // Kernels write 32-bit pixels without a look at the clip.
+    if (regionType == COMPLEXREGION || !image.bmBits || image.bmBitsPixel != 32 || !EqualRect(&visible, &area))
+        return DcAccess::copy;
+
+    POINT viewportOrg{};
+    POINT windowOrg{};
+    GetViewportOrgEx(dc, &viewportOrg);
+    GetWindowOrgEx(dc, &windowOrg);
+    const RECT device = Offset(area, viewportOrg - windowOrg);
+    BITMAP part = image;
+    if (!CutToArea(part, device)) return DcAccess::outside;
+    if (!DcShows(image, device)) return DcAccess::copy;
+    info = ToLockInfo(part);
+    return DcAccess::direct;
+}
+
+// GDI describes a bottom-up DIB section exactly as a top-down one, so look: a pixel that is changed in memory must
+// change where the area says it is. The middle row of a bitmap would be the same either way round.
+bool CanvasLock::DcShows(const BITMAP& image, const RECT& device) const {
+    const bool isMiddle = image.bmHeight - 1 - device.top == device.top;
+    const LONG row = isMiddle ? device.bottom - 1 : device.top;
+    const LONG y = isMiddle ? area.bottom - 1 : area.top;
+    auto& pixel = reinterpret_cast<DWORD*>(static_cast<std::byte*>(image.bmBits) +
+                                           static_cast<std::ptrdiff_t>(row) * image.bmWidthBytes)[device.left];
+    const COLORREF before = GetPixel(canvas.hostDc, area.left, y);
+    pixel ^= 0x00FFFFFF;
+    const COLORREF after = GetPixel(canvas.hostDc, area.left, y);
+    pixel ^= 0x00FFFFFF;
+    return before != after;
+}
+
+bool CanvasLock::CopyFromDc() {
+    // Kernels step through larger images wrongly.
+    if (WidthOf(area) > maxExtent || HeightOf(area) > maxExtent) return false;
+    BITMAP description{};
+    description.bmWidth = area.right - area.left;
+    description.bmHeight = area.bottom - area.top;
+    if (!copy.Create(&description, 0)) return false;
+    const MemoryDc memoryDc(copy.Handle());
+    BitBlt(memoryDc.Get(), 0, 0, description.bmWidth, description.bmHeight, canvas.hostDc, area.left, area.top,
+           SRCCOPY);
+    return copy.LockEx(&info, nullptr);
+}
+
+void CanvasLock::WriteBack() const {
+    BITMAPINFO header{};
+    header.bmiHeader.biSize = sizeof header.bmiHeader;
+    header.bmiHeader.biWidth = info.bmWidth;
+    header.bmiHeader.biHeight = -info.bmHeight;  // top-down
+    header.bmiHeader.biPlanes = 1;
+    header.bmiHeader.biBitCount = 32;
+    const auto width = static_cast<DWORD>(info.bmWidth);
+    const auto height = static_cast<DWORD>(info.bmHeight);
+    SetDIBitsToDevice(canvas.hostDc, area.left, area.top, width, height, 0, 0, 0, height, info.bmBits, &header,
+                      DIB_RGB_COLORS);
+}
+
+}  // namespace zorvic

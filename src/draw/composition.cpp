@@ -1,0 +1,123 @@
+// Locking and choosing for the composition of canvases; pixels are the kernels' work, or GDI's.
+#include "draw/composition.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+
+#include "canvas/rect.h"
+#include "raster/kernel_table.h"
+#include "raster/request.h"
+
+namespace zorvic {
+
+namespace {
+
+bool HasAlpha(const Canvas& canvas) { return OperationOf(canvas.Filter()) == Operation::sourceOver; }
+
+// A rectangle as GDI takes it: a corner and extents.
+struct GdiRect {
+    explicit GdiRect(const RECT& rect)
+        : x(rect.left), y(rect.top), width(Saturate(WidthOf(rect))), height(Saturate(HeightOf(rect))) {}
+
+    static int Saturate(std::int64_t extent) {
+        using Limits = std::numeric_limits<int>;
+        return static_cast<int>(std::clamp<std::int64_t>(extent, Limits::min(), Limits::max()));
+    }
+
+    int x, y, width, height;
+};
+
+int Stretch(HDC target, const GdiRect& dst, HDC source, const GdiRect& src) {
+    return StretchBlt(target, dst.x, dst.y, dst.width, dst.height, source, src.x, src.y, src.width, src.height,
+                      SRCCOPY);
+}
+
+// format: AC_SRC_ALPHA to compose by the source's own alpha as well.
+int Blend(HDC target, const GdiRect& dst, HDC source, const GdiRect& src, BYTE alpha, BYTE format) {
+    const BLENDFUNCTION function{AC_SRC_OVER, 0, alpha, format};
+    return AlphaBlend(target, dst.x, dst.y, dst.width, dst.height, source, src.x, src.y, src.width, src.height,
+                      function);
+}
+
+}  // namespace
+
+int MixCanvas(Canvas& dst, const RECT& dstRect, Canvas& src, const RECT& srcRect, DWORD value) {
+    const CanvasLock target(dst, dstRect);
+    if (!target) return 1;
+    const CanvasLock source(src, srcRect);
+    if (!source) return 1;
+    const bool sameSize = target->bmWidth == source->bmWidth && target->bmHeight == source->bmHeight;
+    return KernelTable.At(sameSize ? slots::crossFadeSameSize : slots::crossFadeNearest)(*target, *source, value);
+}
+
+int MixCanvasWithColor(Canvas& canvas, const RECT& rect, DWORD color, DWORD value) {
+    if (const CanvasLock target(canvas, rect); target) KernelTable.At(slots::fillMix)(*target, color, value);
+    return 1;
+}
+
+int BlendCanvas(Canvas& dst, const RECT& dstRect, Canvas& src, const RECT& srcRect, BYTE alpha) {
+    const RECT clip = dst.VisibleRect();
+    RECT visible;
+    if (!IntersectRect(&visible, &clip, &dstRect)) return 1;
+
+    const bool composed = HasAlpha(src);
+    if (!dst.Surface() || !src.Surface()) {
+        // GDI clips by itself. The opacity of a source without alpha is ignored on purpose.
+        const HDC to = dst.MakeDc();
+        const HDC from = src.MakeDc();
+        return composed ? Blend(to, GdiRect(dstRect), from, GdiRect(srcRect), alpha, AC_SRC_ALPHA)
+                        : Stretch(to, GdiRect(dstRect), from, GdiRect(srcRect));
+    }
+
+    const CanvasLock target(dst, visible);
+    if (!target) return 1;
+    const CanvasLock source(src, srcRect);
+    if (!source) return 1;
+
+    constexpr auto depth = SourceDepth::argb32;
+    const bool blended = HasAlpha(dst) || alpha != 255;
+    const Placement placement{visible.left - std::int64_t{dstRect.left}, visible.top - std::int64_t{dstRect.top},
+                              WidthOf(dstRect), HeightOf(dstRect)};
+    if (placement.width == source->bmWidth && placement.height == source->bmHeight) {
+        const BitmapLockInfo part = PartOf(*source, static_cast<int>(placement.left), static_cast<int>(placement.top),
+                                           target->bmWidth, target->bmHeight);
+        if (composed) return KernelTable.At(slots::overSameSize, depth)(*target, part);
+        if (blended) return KernelTable.At(slots::opaqueAlphaSameSize)(*target, part, alpha);
+        return KernelTable.At(slots::copySameSize, depth)(*target, part);
+    }
+    if (EqualRect(&visible, &dstRect)) {
+        if (composed) return KernelTable.At(slots::overNearest, depth)(*target, *source);
+        if (blended) return KernelTable.At(slots::opaqueAlphaNearest)(*target, *source, alpha);
+        return KernelTable.At(slots::copyNearest, depth)(*target, *source);
+    }
+    // A clipped stretch ignores the opacity and the destination's alpha on purpose.
+    return KernelTable.At(composed ? slots::placedOverNearest : slots::placedCopyNearest, depth)(*target, placement,
+                                                                                                 *source);
+}
+
+int CanvasScroll(Canvas& canvas, int dx, int dy) {
+    if (dx != 0 || !canvas.Surface()) return 0;
+    const SIZE size = canvas.Surface()->Size();
+    const CanvasLock pixels(canvas, {0, 0, size.cx, size.cy});
+    if (!pixels) return 0;
+
+    const std::int64_t distance = std::abs(std::int64_t{dy});
+    const std::int64_t moved = size.cy - distance;
+    if (distance == 0 || moved <= 0) return 1;
+    auto* const first = static_cast<std::byte*>(pixels->bmBits);
+    auto* const later = first + static_cast<std::ptrdiff_t>(distance) * pixels->bmWidthBytes;
+    std::memmove(dy > 0 ? later : first, dy > 0 ? first : later,
+                 static_cast<std::size_t>(moved) * static_cast<std::size_t>(pixels->bmWidthBytes));
+    return 1;
+}
+
+int GdiTransCanvas(HDC target, const RECT& dst, Canvas& canvas, const RECT& src, BYTE alpha) {
+    const HDC source = canvas.MakeDc();
+    if (HasAlpha(canvas)) return Blend(target, GdiRect(dst), source, GdiRect(src), alpha, AC_SRC_ALPHA);
+    if (alpha == 255) return Stretch(target, GdiRect(dst), source, GdiRect(src));
+    return Blend(target, GdiRect(dst), source, GdiRect(src), alpha, 0);
+}
+
+}  // namespace zorvic

@@ -1,0 +1,33 @@
+// Clipping and locking of modulated draws; the pixels are the engine's work.
+#include "draw/modulation.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "canvas/rect.h"
+#include "raster/modulation.h"
+
+namespace zorvic {
+
+int DrawModulation(Canvas& canvas, POINT corner, const Bitmap& bitmap, const RECT* src, DWORD color) {
+    const SIZE size = bitmap.Size();
+    const RECT area = src ? *src : RECT{0, 0, size.cx, size.cy};
+    const auto farEdge = [](LONG nearEdge, std::int64_t extent) {
+        using Limits = std::numeric_limits<LONG>;
+        return static_cast<LONG>(std::clamp<std::int64_t>(nearEdge + extent, Limits::min(), Limits::max()));
+    };
+    const RECT dst{corner.x, corner.y, farEdge(corner.x, WidthOf(area)), farEdge(corner.y, HeightOf(area))};
+    const RECT clip = canvas.VisibleRect();
+    RECT visible;
+    if (!IntersectRect(&visible, &clip, &dst)) return 1;
+
+    // What is visible of the area, in bitmap pixels; it lies inside the area, so that nothing wraps.
+    const RECT part = Offset(visible, POINT{area.left, area.top} - corner);
+    const CanvasLock target(canvas, visible);
+    if (!target) return 1;
+    const SurfaceLock source(bitmap, &part);
+    if (source) ModulateImage(*target, *source, color);
+    return 1;
+}
+
+}  // namespace zorvic
