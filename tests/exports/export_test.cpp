@@ -1,0 +1,73 @@
+// The DLL as the world sees it: names, aliases, imports, record layouts, and what calls without valid arguments return.
+#include <cstddef>
+
+#include "exports/null_cases.h"
+#include "exports/pe_image.h"
+
+namespace {
+
+// A 32-bit host may have been compiled long ago: these numbers never change.
+static_assert(sizeof(void*) != 4 ||
+              (sizeof(BitmapLockInfo) == 32 && offsetof(BitmapLockInfo, bmBits) == 20 &&
+               offsetof(BitmapLockInfo, colorCount) == 24 && offsetof(BitmapLockInfo, palette) == 28));
+static_assert(offsetof(TextureMode, argument) == 4 && offsetof(TextureMode, margins) == 8);
+
+PeImage Dll() { return PeImage(GetModuleHandleW(L"zorvic32.dll")); }
+
+TEST(Exports, AreExactlyTheDocumentedNames) {
+    std::set<std::string> wanted;
+    for (const NullCase& c : NullCases()) wanted.insert(c.name);
+    std::set<std::string> got;
+    for (const auto& [name, address] : Dll().Exports()) got.insert(name);
+    EXPECT_EQ(got, wanted);
+    EXPECT_EQ(got.size(), 78U);
+}
+
+TEST(Exports, AliasesAreOneFunction) {
+    const std::pair<const char*, const char*> aliases[] = {{"DeleteTexture", "DeleteBitmap"},
+                                                           {"ReleaseTexture", "DeleteBitmap"},
+                                                           {"GetTextureHandle", "GetBitmapHandle"},
+                                                           {"LockTextureBits", "LockBitmapBits"},
+                                                           {"LockTextureBitsEx", "LockBitmapBitsEx"},
+                                                           {"UnlockTextureBits", "UnlockBitmapBits"},
+                                                           {"GetTextureFilter", "GetBitmapFilter"},
+                                                           {"SetTextureFilter", "SetBitmapFilter"},
+                                                           {"CopyTexture", "CopyBitmap"},
+                                                           {"GetTextureBitsPixel", "GetBitmapBitsPixel"}};
+    const auto exports = Dll().Exports();
+    for (const auto& [alias, name] : aliases) EXPECT_EQ(exports.at(alias), exports.at(name)) << alias;
+
+    std::set<const void*> addresses;
+    for (const auto& [name, address] : exports) addresses.insert(address);
+    EXPECT_EQ(addresses.size(), exports.size() - std::size(aliases)) << "other names are functions of their own";
+}
+
+TEST(Exports, DependOnSystemDllsOnly) {
+    const std::set<std::string> system = {"gdi32.dll", "kernel32.dll", "msimg32.dll", "msvcrt.dll", "user32.dll"};
+    for (const std::string& name : Dll().Imports()) EXPECT_TRUE(system.contains(name)) << name;
+}
+
+TEST(Exports, RefuseNullHandles) {
+    Partners with;
+    for (const NullCase& c : NullCases()) {
+        const auto place = &c - NullCases().data();
+        EXPECT_EQ(c.call(with), c.wanted) << c.name << ", case " << place;
+    }
+}
+
+TEST(Exports, RefuseNullResultsOfBitmapsAndTextures) {
+    const Partners with;
+    const HGBITMAP bitmap = with.bitmap.get();
+    const HGTEXTURE texture = with.texture.get();
+    EXPECT_EQ(GetBitmapSize(bitmap, nullptr), 0);
+    EXPECT_EQ(LockBitmapBits(bitmap, nullptr, nullptr), 0);
+    EXPECT_EQ(LockBitmapBitsEx(bitmap, nullptr, nullptr), 0);
+    EXPECT_EQ(GetBitmapFilter(bitmap, nullptr), 0);
+    EXPECT_EQ(GetBitmapBitsPixel(bitmap, nullptr), 0);
+    EXPECT_EQ(GetTextureSize(texture, nullptr), 0);
+    EXPECT_EQ(SetTextureMode(texture, nullptr), 0);
+    EXPECT_EQ(GetTextureMode(texture, nullptr), 0);
+    EXPECT_EQ(GetTextureCurSlice(texture, nullptr), 0);
+}
+
+}  // namespace

@@ -1,0 +1,48 @@
+// What a loaded DLL's headers say: the names it exports, with their addresses, and the DLLs it imports.
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+#include <set>
+#include <string>
+
+class PeImage {
+public:
+    explicit PeImage(HMODULE module) : base(reinterpret_cast<const BYTE*>(module)) {}
+
+    std::map<std::string, const void*> Exports() const {
+        std::map<std::string, const void*> exports;
+        const auto* table = Directory<IMAGE_EXPORT_DIRECTORY>(IMAGE_DIRECTORY_ENTRY_EXPORT);
+        const auto* names = At<DWORD>(table->AddressOfNames);
+        const auto* ordinals = At<WORD>(table->AddressOfNameOrdinals);
+        const auto* functions = At<DWORD>(table->AddressOfFunctions);
+        for (DWORD i = 0; i < table->NumberOfNames; ++i) exports[At<char>(names[i])] = At<void>(functions[ordinals[i]]);
+        return exports;
+    }
+
+    // In lower case, as Windows compares them.
+    std::set<std::string> Imports() const {
+        std::set<std::string> imports;
+        for (const auto* entry = Directory<IMAGE_IMPORT_DESCRIPTOR>(IMAGE_DIRECTORY_ENTRY_IMPORT); entry->Name;
+             ++entry) {
+            std::string name = At<char>(entry->Name);
+            CharLowerBuffA(name.data(), static_cast<DWORD>(name.size()));
+            imports.insert(name);
+        }
+        return imports;
+    }
+
+private:
+    template <class Record>
+    const Record* At(DWORD offset) const {
+        return static_cast<const Record*>(static_cast<const void*>(base + offset));
+    }
+    template <class Record>
+    const Record* Directory(int index) const {
+        const auto* headers = At<IMAGE_NT_HEADERS>(static_cast<DWORD>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
+        return At<Record>(headers->OptionalHeader.DataDirectory[index].VirtualAddress);
+    }
+
+    const BYTE* base;
+};
