@@ -1,6 +1,8 @@
 // The baseline form: one pixel in a 32-bit word, plain integer C++, two channels per multiplication.
 #pragma once
 
+#include <cstring>
+
 #include "raster/forms/form.h"
 
 namespace zorvic {
@@ -12,10 +14,14 @@ struct Baseline {
 
     std::uint32_t pixel;
 
-    static Baseline Load(const std::uint32_t* in) { return {*in}; }
+    static Baseline Load(const std::uint32_t* in) {
+        Baseline v;
+        std::memcpy(&v.pixel, in, sizeof v.pixel);  // rows may start at any byte
+        return v;
+    }
     static Baseline Broadcast(std::uint32_t word) { return {word}; }
     static Weight Uniform(int factor) { return static_cast<Weight>(factor); }
-    void Store(std::uint32_t* out) const { *out = pixel; }
+    void Store(std::uint32_t* out) const { std::memcpy(out, &pixel, sizeof pixel); }
 
     friend Baseline operator+(Baseline a, Baseline b) { return {a.pixel + b.pixel}; }
     friend Baseline operator|(Baseline a, Baseline b) { return {a.pixel | b.pixel}; }

@@ -1,6 +1,8 @@
 // Reading one source pixel as a 32-bit ARGB word, for every source depth, and the address of a row.
 #pragma once
 
+#include <cstring>
+
 #include "raster/image.h"
 
 namespace zorvic {
@@ -20,7 +22,9 @@ std::uint32_t ReadPixel(const BitmapLockInfo& src, const std::byte* row, std::pt
         return 0xFF000000U | std::to_integer<std::uint32_t>(pixel[2]) << 16 |
                std::to_integer<std::uint32_t>(pixel[1]) << 8 | std::to_integer<std::uint32_t>(pixel[0]);
     } else {
-        return reinterpret_cast<const std::uint32_t*>(row)[x];
+        std::uint32_t pixel;
+        std::memcpy(&pixel, row + 4 * x, sizeof pixel);  // rows may start at any byte
+        return pixel;
     }
 }
 

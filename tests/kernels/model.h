@@ -1,0 +1,30 @@
+// What every slot has to do, said a second time: one pixel and one byte at a time, by slot number. Slow on purpose.
+#pragma once
+
+#include "raster/slots.h"
+
+namespace zorvic {
+
+// All that a kernel of any kind is given; each takes what it needs.
+struct Job {
+    BitmapLockInfo dst;
+    Placement placement;
+    BitmapLockInfo src;
+    std::uint32_t color;     // of fills
+    std::uint32_t argument;  // opacity (its low byte), key or mix value
+};
+
+// Slots first to last: what they sample and what they do with it.
+struct SlotMeaning {
+    int first, last;
+    Rows rows;
+    Op op;
+};
+SlotMeaning MeaningOf(int slot);
+
+void DrawByModel(int slot, const Job& job);
+
+// A source pixel as the ARGB word that is drawn.
+std::uint32_t SourceColor(const BitmapLockInfo& src, std::int64_t x, std::int64_t y);
+
+}  // namespace zorvic

@@ -1,0 +1,70 @@
+// Every slot as one kind of call, and the kernel sets that are tested through it.
+#pragma once
+
+#include <functional>
+#include <ostream>
+#include <vector>
+
+#include "kernels/model.h"
+#include "raster/kernels.h"
+
+namespace zorvic {
+
+// A kernel set under test; a line for each form.
+struct NamedKernels {
+    const char* name;
+    const KernelSet* kernels;
+
+    friend void PrintTo(const NamedKernels& kernels, std::ostream* out) { *out << kernels.name; }
+};
+inline constexpr NamedKernels kernelSets[] = {
+    {"baseline", &baselineKernels},
+};
+
+struct SlotCall {
+    int slot;
+    int bitsPixel;  // of the source
+    bool takesPlacement;
+    std::function<int(const KernelSet& kernels, const Job& job)> run;
+
+    Rows RowSource() const { return MeaningOf(slot).rows; }
+    bool IsScaled() const { return RowSource() != Rows::solid && RowSource() != Rows::unscaled; }
+    friend void PrintTo(const SlotCall& call, std::ostream* out) { *out << "slot " << call.slot; }
+};
+
+inline int Call(Blit kernel, const Job& job) { return kernel(job.dst, job.src); }
+inline int Call(BlitAlpha kernel, const Job& job) {
+    return kernel(job.dst, job.src, static_cast<std::uint8_t>(job.argument));
+}
+inline int Call(BlitKey kernel, const Job& job) { return kernel(job.dst, job.src, job.argument); }
+inline int Call(Placed kernel, const Job& job) { return kernel(job.dst, job.placement, job.src); }
+inline int Call(PlacedAlpha kernel, const Job& job) {
+    return kernel(job.dst, job.placement, job.src, static_cast<std::uint8_t>(job.argument));
+}
+inline int Call(PlacedKey kernel, const Job& job) { return kernel(job.dst, job.placement, job.src, job.argument); }
+inline int Call(Fill kernel, const Job& job) { return kernel(job.dst, job.color); }
+inline int Call(FillMix kernel, const Job& job) { return kernel(job.dst, job.color, job.argument); }
+inline int Call(InPlace kernel, const Job& job) { return kernel(job.dst); }
+
+template <class Kernel>
+void AppendCalls(std::vector<SlotCall>& calls, Slot<Kernel> slot, int bitsPixel = 32) {
+    constexpr bool placed =
+        std::is_same_v<Kernel, Placed> || std::is_same_v<Kernel, PlacedAlpha> || std::is_same_v<Kernel, PlacedKey>;
+    calls.push_back({slot.index, bitsPixel, placed,
+                     [slot](const KernelSet& kernels, const Job& job) { return Call(kernels.At(slot), job); }});
+}
+
+template <class Kernel>
+void AppendCalls(std::vector<SlotCall>& calls, Group<Kernel> group) {
+    AppendCalls(calls, group[SourceDepth::palette8], 8);
+    AppendCalls(calls, group[SourceDepth::rgb24], 24);
+    AppendCalls(calls, group[SourceDepth::argb32], 32);
+}
+
+inline std::vector<SlotCall> AllSlotCalls() {
+    std::vector<SlotCall> calls;
+    std::apply([&](auto... entry) { (AppendCalls(calls, entry), ...); }, slots::all);
+    return calls;
+}
+
+}  // namespace zorvic
