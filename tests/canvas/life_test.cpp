@@ -1,0 +1,175 @@
+// What a new canvas is, what it inherits, what it keeps for the host, and how long things live.
+#include <climits>
+
+#include "support/gdi.h"
+
+using namespace host;
+
+namespace {
+
+constexpr auto nothing = [](int, int) { return 0U; };
+
+DWORD FilterOf(HGCANVAS canvas) {
+    DWORD filter = 0;
+    EXPECT_EQ(GetCanvasFilter(canvas, &filter), 1);
+    return filter;
+}
+
+DWORD FilterOf(HGBITMAP bitmap) {
+    DWORD filter = 0;
+    EXPECT_EQ(GetBitmapFilter(bitmap, &filter), 1);
+    return filter;
+}
+
+struct Maker {
+    const char* name;
+    HGCANVAS(ZORVIC_CALL* create)(int width, int height, HGCANVAS reference);
+};
+const Maker makers[] = {{"memory", CreateCanvas}, {"system", CreateSystemCanvas}};
+
+}  // namespace
+
+TEST(CanvasLife, StartsTransparentAndPlain) {
+    for (const auto& [name, create] : makers) {
+        SCOPED_TRACE(name);
+        // Heap blocks of this size are used again: their old pixels must not show through.
+        MakeBitmap(37, 23, Pattern{});
+        const OwnedCanvas canvas(create(37, 23, nullptr));
+        ASSERT_TRUE(canvas);
+        EXPECT_TRUE(Shows(canvas.get(), nothing));
+        SIZE size{};
+        EXPECT_EQ(GetCanvasSize(canvas.get(), &size), 1);
+        EXPECT_EQ(size.cx, 37);
+        EXPECT_EQ(size.cy, 23);
+        EXPECT_EQ(FilterOf(canvas.get()), 0U);
+        EXPECT_EQ(FilterOf(GetBitmap(canvas.get())), 0U);
+        EXPECT_EQ(GetCanvasWindow(canvas.get()), nullptr);
+        DWORD color = 1;
+        EXPECT_EQ(GetCanvasBkColor(canvas.get(), &color), 1);
+        EXPECT_EQ(color, 0U);
+
+        for (const auto& [width, height] : {std::pair{0, 5}, {5, -1}, {32768, 1}, {1, 32768}, {INT_MIN, INT_MAX}})
+            EXPECT_EQ(create(width, height, nullptr), nullptr) << width << " x " << height;
+    }
+}
+
+TEST(CanvasLife, InheritsTheOperationWordOnly) {
+    for (const auto& [name, create] : makers) {
+        SCOPED_TRACE(name);
+        const OwnedCanvas reference(CreateCanvas(4, 4, nullptr));
+        EXPECT_EQ(SetCanvasFilter(reference.get(), 0x02112233), 1);
+        EXPECT_EQ(FilterOf(GetBitmap(reference.get())), 0x02112233U) << "the surface's word mirrors the canvas's";
+        SetViewportOrg(reference.get(), 5, 6, nullptr);
+        SetCanvasBkColor(reference.get(), 7, nullptr);
+
+        const OwnedCanvas canvas(create(8, 8, reference.get()));
+        EXPECT_EQ(FilterOf(canvas.get()), 0x02112233U);
+        EXPECT_EQ(FilterOf(GetBitmap(canvas.get())), 0x02112233U);
+        POINT origin{9, 9};
+        GetViewportOrg(canvas.get(), &origin);
+        EXPECT_TRUE(origin.x == 0 && origin.y == 0);
+        DWORD color = 9;
+        GetCanvasBkColor(canvas.get(), &color);
+        EXPECT_EQ(color, 0U);
+    }
+}
+
+TEST(CanvasLife, KeepsWhatTheHostStores) {
+    const OwnedCanvas canvas(CreateCanvas(4, 4, nullptr));
+    const auto window = reinterpret_cast<HWND>(canvas.get());
+    EXPECT_EQ(SetCanvasWindow(canvas.get(), window), nullptr);
+    EXPECT_EQ(GetCanvasWindow(canvas.get()), window);
+    EXPECT_EQ(SetCanvasWindow(canvas.get(), nullptr), window);
+
+    DWORD color = 1;
+    EXPECT_EQ(SetCanvasBkColor(canvas.get(), 0x80FFFFFF, &color), 1);
+    EXPECT_EQ(color, 0U);
+    EXPECT_EQ(SetCanvasBkColor(canvas.get(), 2, nullptr), 1);
+    EXPECT_EQ(SetCanvasBkColor(canvas.get(), 3, &color), 1);
+    EXPECT_EQ(color, 2U);
+}
+
+// The first request for the device context turns a memory surface into a DIB section: same bitmap, moved pixels.
+TEST(CanvasLife, TheDeviceContextShowsTheSurface) {
+    for (const auto& [name, create] : makers) {
+        SCOPED_TRACE(name);
+        const OwnedCanvas canvas(create(9, 7, nullptr));
+        const HGBITMAP surface = GetBitmap(canvas.get());
+        Fill(canvas.get(), Pattern{});
+        const HDC dc = GetCanvasHandle(canvas.get());
+        ASSERT_NE(dc, nullptr);
+        EXPECT_EQ(GetCanvasHandle(canvas.get()), dc);
+        EXPECT_EQ(GetBitmap(canvas.get()), surface);
+        EXPECT_EQ(GetCurrentObject(dc, OBJ_BITMAP), GetBitmapHandle(surface));
+        EXPECT_TRUE(Shows(canvas.get(), Pattern{}));
+        const DWORD pixel = Pattern{}(8, 6);
+        EXPECT_EQ(GetPixel(dc, 8, 6), RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF));
+    }
+}
+
+TEST(CanvasLife, ACanvasOnADeviceContextOnlyBorrowsIt) {
+    const GdiBitmap dib = GdiBitmap::Dib(8, 6);
+    SetViewportOrgEx(dib.Dc(), 3, 2, nullptr);
+    SetWindowOrgEx(dib.Dc(), 1, -1, nullptr);
+    OwnedCanvas canvas(CreateCanvasFromDC(dib.Dc()));
+    ASSERT_TRUE(canvas);
+    POINT origin{};
+    EXPECT_EQ(GetViewportOrg(canvas.get(), &origin), 1);
+    EXPECT_TRUE(origin.x == 3 && origin.y == 2);
+    EXPECT_EQ(GetWindowOrg(canvas.get(), &origin), 1);
+    EXPECT_TRUE(origin.x == 1 && origin.y == -1);
+
+    EXPECT_EQ(GetCanvasHandle(canvas.get()), dib.Dc());
+    EXPECT_EQ(GetBitmap(canvas.get()), nullptr);
+    EXPECT_EQ(GetTexture(canvas.get()), nullptr);
+    SIZE size{-1, -1};
+    EXPECT_EQ(GetCanvasSize(canvas.get(), &size), 0);
+    EXPECT_EQ(SetCanvasFilter(canvas.get(), 0x01000000), 0);
+    EXPECT_EQ(FilterOf(canvas.get()), 0U);
+
+    canvas.reset();
+    EXPECT_EQ(GetCurrentObject(dib.Dc(), OBJ_BITMAP), dib.Handle());
+    EXPECT_TRUE(PatBlt(dib.Dc(), -2, -3, 8, 6, WHITENESS)) << "the host's device context goes on";
+
+    EXPECT_EQ(CreateCanvasFromDC(nullptr), nullptr);
+    const HWND desktop = GetDesktopWindow();
+    const HDC screen = GetDC(desktop);
+    canvas.reset(CreateCanvasFromDC(screen));
+    EXPECT_EQ(GetCanvasWindow(canvas.get()), desktop);
+    canvas.reset();
+    EXPECT_EQ(ReleaseDC(desktop, screen), 1);
+}
+
+TEST(CanvasLife, TexturesOutliveTheCanvasTheyCameFrom) {
+    for (const bool withDc : {false, true}) {
+        const HGCANVAS canvas = CreateCanvas(9, 7, nullptr);
+        SetCanvasFilter(canvas, 0x01000000);
+        if (withDc) GetCanvasHandle(canvas);
+        Fill(canvas, Pattern{});
+        const OwnedTexture texture(CanvasToTexture(canvas));
+        ASSERT_TRUE(texture);
+        EXPECT_TRUE(Shows(texture.get(), Pattern{})) << "the device context let the pixels go";
+        EXPECT_NE(GetTextureHandle(texture.get()), nullptr);
+        EXPECT_TRUE(Shows(texture.get(), Pattern{}));
+    }
+}
+
+// The texture keeps the pixels that it was made from; the canvas draws on its new ones.
+TEST(CanvasLife, ATextureKeepsItsPixelsWhenTheSurfaceMoves) {
+    const OwnedCanvas canvas(CreateCanvas(9, 7, nullptr));
+    Fill(canvas.get(), Pattern{});
+    const OwnedTexture texture(GetTexture(canvas.get()));
+    GetCanvasHandle(canvas.get());
+    Fill(canvas.get(), Pattern{2});
+    EXPECT_TRUE(Shows(texture.get(), Pattern{}));
+    EXPECT_TRUE(Shows(canvas.get(), Pattern{2}));
+}
+
+TEST(CanvasLife, AnyCanvasBecomesATexture) {
+    const GdiBitmap dib = GdiBitmap::Dib(8, 6);
+    const OwnedTexture texture(CanvasToTexture(CreateCanvasFromDC(dib.Dc())));
+    ASSERT_TRUE(texture) << "the canvas was consumed";
+    SIZE size{-1, -1};
+    EXPECT_EQ(GetTextureSize(texture.get(), &size), 1);
+    EXPECT_EQ(size.cx, 0) << "it had no pixels";
+}

@@ -1,0 +1,59 @@
+// Pixel formulas the slow way: one pixel, one byte at a time, as they are documented.
+#pragma once
+
+#include "support/host.h"
+
+namespace host {
+
+inline int Channel(DWORD pixel, int i) { return static_cast<int>(pixel >> 8 * i & 0xFF); }
+inline int AlphaOf(DWORD pixel) { return Channel(pixel, 3); }
+
+// The pixel whose channel i (blue, green, red, alpha) is the low byte of formula(i).
+template <class Formula>
+DWORD FromChannels(Formula formula) {
+    DWORD pixel = 0;
+    for (int i = 0; i < 4; ++i) pixel |= static_cast<DWORD>(formula(i) & 0xFF) << 8 * i;
+    return pixel;
+}
+
+inline DWORD SlowOver(DWORD s, DWORD d) {
+    return FromChannels([=](int i) { return Channel(s, i) + (Channel(d, i) * (256 - AlphaOf(s)) / 256); });
+}
+
+// Of a sample that counts as opaque.
+inline DWORD SlowOpaqueAlpha(DWORD s, DWORD d, int alpha) {
+    const DWORD opaque = s | 0xFF000000;
+    return SlowOver(FromChannels([=](int i) { return Channel(opaque, i) * (alpha + 1) / 256; }), d);
+}
+
+inline DWORD SlowCrossFade(DWORD s, DWORD d, int amount) {
+    if (amount == 0) return d;
+    return FromChannels([=](int i) { return (Channel(s, i) * (amount + 1) + Channel(d, i) * (255 - amount)) / 256; });
+}
+
+inline DWORD SlowMixColor(DWORD color, DWORD d, int amount) {
+    if (amount == 0) return d;
+    return FromChannels(
+        [=](int i) { return Channel(d, i) * (255 - amount) / 256 + Channel(color, i) * (amount + 1) / 256; });
+}
+
+inline DWORD SlowTint(DWORD s, DWORD d, DWORD color) {
+    const int luma = (Channel(s, 2) + 2 * Channel(s, 1) + Channel(s, 0)) / 4;
+    const int lit = (luma + 1) * AlphaOf(color) / 256;
+    return FromChannels([=](int i) {
+        if (i == 3) return (256 - lit) * AlphaOf(d) / 256 + lit;
+        return (255 - Channel(s, i)) * Channel(d, i) / 256 + Channel(color, i) * Channel(s, i) / 256;
+    });
+}
+
+inline DWORD SlowModulate(DWORD s, DWORD d, DWORD color) {
+    if (s == 0) return d;
+    return SlowOver(FromChannels([=](int i) { return (Channel(s, i) + 1) * Channel(color, i) / 256; }), d);
+}
+
+// The source column or row that nearest sampling shows at i.
+inline int SlowNearest(int i, int sourceExtent, int drawnExtent) {
+    return i * (sourceExtent * 65536 / drawnExtent) / 65536;
+}
+
+}  // namespace host
