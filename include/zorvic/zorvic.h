@@ -65,7 +65,7 @@ ZORVIC_API HGBITMAP ZORVIC_CALL CreateMemBitmap(int width, int height);
 /** Creates a bitmap in heap memory with a depth and a palette of its own. Pixels and palette start undefined.
  *  \param width,height  pixels, 1..32767 each
  *  \param bitsPixel     1..32; only depths from 8 on can be locked, and only 8, 24 and 32 are drawn as such
- *  \param colorCount    palette entries, cut to 2^bitsPixel; 0, the grey ramp; ignored above 8 bits
+ *  \param colorCount    palette entries, cut to 2^bitsPixel; 0 or less, the grey ramp; ignored above 8 bits
  *  \return a bitmap to be deleted with DeleteBitmap; NULL for a bad size or depth, or when memory is short */
 ZORVIC_API HGBITMAP ZORVIC_CALL CreateMemBitmapEx(int width, int height, int bitsPixel, int colorCount);
 

@@ -55,10 +55,14 @@ TEST(ResourceManager, PixelsThatMoveIntoATextureAreNotReleased) {
     OwnedTexture texture(BitmapToTexture(bitmap.release()));
     EXPECT_EQ(manager.log, "");
 
-    const RECT slices[2]{};
-    SetTextureSlice(texture.get(), 2, slices);
+    const RECT set{1, 2, 3, 4};
+    SetTextureSlice(texture.get(), 1, &set);
     const HGTEXTURE handle = texture.get();
-    manager.whileReleasing = [=] { EXPECT_EQ(GetTextureSliceCount(handle), 2) << "the texture is still whole"; };
+    manager.whileReleasing = [=] {
+        RECT slice{};
+        EXPECT_EQ(GetTextureCurSlice(handle, &slice), 1);
+        EXPECT_EQ(slice, set) << "the texture is still whole";
+    };
     texture.reset();
     EXPECT_EQ(manager.log, "release;");
     EXPECT_EQ(manager.last, AsBitmap(handle));
