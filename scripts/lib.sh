@@ -29,28 +29,32 @@ need_megabytes() {
 
 # try_long NAME COMMAND...: runs a command with its output in build/logs/NAME.log and says now and then how far it is.
 try_long() {
-    local name="$1" log="$logs/$1.log" started=$SECONDS command status last
+    local name="$1" log="$logs/$1.log" command pulse status
     shift
     mkdir -p "$logs" 2>/dev/null && : 2>/dev/null >"$log" || fail "cannot write to $logs"
     "$@" >"$log" 2>&1 </dev/null &
     command=$!
-    trap 'kill $command 2>/dev/null; wait $command; exit 130' INT TERM HUP
-    while wait_up_to "$heartbeat_seconds" $command; do
-        last="$(tail -n 1 "$log" | tr -d '\000-\037' | cut -c 1-90)"
-        printf '    %s: %d s  %s\n' "$name" $((SECONDS - started)) "$last"
-    done
+    heartbeat "$name" &
+    pulse=$!
+    trap 'kill $command $pulse 2>/dev/null; wait $command; exit 130' INT TERM HUP
     wait $command
     status=$?
+    kill $pulse 2>/dev/null
+    wait $pulse 2>/dev/null
     trap - INT TERM HUP
     return $status
 }
 
-# wait_up_to SECONDS PID: true if the process still runs after that time.
-wait_up_to() {
-    local tenths
-    for ((tenths = 0; tenths < $1 * 10; ++tenths)); do
-        kill -0 "$2" 2>/dev/null || return 1
-        sleep 0.1
+# heartbeat NAME: every few seconds, the time that has passed and the last line of the log.
+heartbeat() {
+    local started=$SECONDS pause
+    trap 'kill $pause 2>/dev/null; exit' TERM
+    while :; do
+        sleep "$heartbeat_seconds" &
+        pause=$!
+        wait $pause
+        printf '    %s: %d s  %s\n' "$1" $((SECONDS - started)) \
+            "$(tail -n 1 "$logs/$1.log" | tr -d '\000-\037' | cut -c 1-90)"
     done
 }
 
