@@ -49,10 +49,6 @@ Image::Image(Random& random, int width, int height, int bitsPixel, Margins margi
     Fill([&](int, int) { return bitsPixel == 8 ? random.Word() : random.Pixel(); });
 }
 
-Image::Image(int width, int height, std::vector<std::uint32_t> pixels) : Image(width, height) {
-    Fill([&](int x, int y) { return pixels[static_cast<std::size_t>(y * width + x)]; });
-}
-
 Image::Image(const Image& other) : info(other.info), memory(other.memory.Bytes().size()), palette(other.palette) {
     std::ranges::copy(other.memory.Bytes(), memory.Bytes().begin());
     info.bmBits = memory.Bytes().data() + guard;
@@ -69,6 +65,12 @@ std::vector<std::uint32_t> Image::Pixels() const {
     for (int y = 0; y < info.bmHeight; ++y)
         for (int x = 0; x < info.bmWidth; ++x) pixels.push_back(At(x, y));
     return pixels;
+}
+
+Image RowOf(const std::vector<std::uint32_t>& pixels) {
+    Image image(static_cast<int>(pixels.size()), 1);
+    image.Fill([&](int x, int) { return pixels[static_cast<std::size_t>(x)]; });
+    return image;
 }
 
 testing::AssertionResult SameBytes(const Image& got, const Image& wanted) {

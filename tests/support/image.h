@@ -30,7 +30,6 @@ public:
     Image(int width, int height, int bitsPixel = 32, Margins margins = {});
     // One pixel after another, row by row; sources of 8 bits get a palette of random pixels.
     Image(Random& random, int width, int height, int bitsPixel = 32, Margins margins = {});
-    Image(int width, int height, std::vector<std::uint32_t> pixels);
     Image(const Image& other);
 
     const BitmapLockInfo& Info() const { return info; }
@@ -48,5 +47,8 @@ private:
     FencedMemory memory;
     std::vector<DWORD> palette;
 };
+
+// One row of 32-bit pixels.
+Image RowOf(const std::vector<std::uint32_t>& pixels);
 
 }  // namespace zorvic

@@ -1,0 +1,117 @@
+// Stretch filter weights in both encodings, byte clamp and gray palette.
+#include "raster/lookup_tables.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "raster/cpu_features.h"
+
+namespace zorvic {
+namespace {
+
+constexpr std::uint32_t modes[] = {0, 1, 2, 3, 0xFFFFFFFF};
+
+// The filters in double precision, as their usual polynomials.
+double Weight(std::uint32_t mode, double x) {
+    if (mode == 1) return x < 1 ? 2.0 / 3 - x * x + x * x * x / 2 : std::pow(2 - x, 3) / 6;
+    return x < 1 ? (x - 1) * (x * x - x - 1) : (1 - x) * (x - 2) * (x - 2);
+}
+
+// The number that both halves of a packed entry hold.
+int Unpacked(std::int32_t entry) {
+    EXPECT_EQ(entry & 0xFFFF, entry >> 16 & 0xFFFF);
+    return static_cast<std::int16_t>(entry & 0xFFFF);
+}
+
+class StretchWeights : public testing::Test {
+protected:
+    StretchWeights() : savedFeatures(ProcessorFeatures), savedMode(StretchKernelMode) {}
+    ~StretchWeights() override {
+        ProcessorFeatures = savedFeatures;
+        StretchKernelMode = savedMode;
+        BuildStretchFilterWeights();
+    }
+
+private:
+    CpuFeatures savedFeatures;
+    std::uint32_t savedMode;
+};
+
+TEST_F(StretchWeights, FollowTheFilterAtEveryDistance) {
+    for (const bool packed : {true, false})
+        for (const std::uint32_t mode : modes) {
+            ProcessorFeatures.cpuHasMMX = packed;
+            StretchKernelMode = mode;
+            BuildStretchFilterWeights();
+            for (int i = 0; i <= 512; ++i) {
+                const std::int32_t entry = StretchFilterWeights[static_cast<std::size_t>(i)];
+                const double scaled = Weight(mode, i / 256.0) * (packed ? 16384 : 256) + 0.5;
+                // Truncated toward zero; single precision may be off by less than a twentieth.
+                const int got = packed ? Unpacked(entry) : entry;
+                EXPECT_TRUE(got == std::trunc(scaled - 0.05) || got == std::trunc(scaled + 0.05))
+                    << "entry " << i << " of mode " << mode << (packed ? ", packed" : "") << ": got " << got
+                    << ", wanted the whole part of " << scaled;
+            }
+        }
+}
+
+TEST_F(StretchWeights, LiteralEntries) {
+    struct {
+        std::uint32_t mode;
+        std::size_t entry;
+        std::uint32_t packed;
+        int plain;
+    } constexpr cases[] = {
+        {1, 0, 0x2AAB2AAB, 171},   // 2/3
+        {1, 256, 0x0AAB0AAB, 43},  // 1/6
+        {1, 384, 0x01550155, 5},   // 1/48
+        {1, 512, 0, 0},
+        {0, 0, 0x40004000, 256},
+        {0, 128, 0x28002800, 160},  // 5/8
+        {0, 256, 0, 0},
+        {0, 384, 0xF801F801, -31},  // -1/8: -2047.5 and -31.5, toward zero
+        {0, 512, 0, 0},
+        {2, 0, 0x40004000, 256},
+        {2, 256, 0, 0},
+        {2, 384, 0xF801F801, -31},
+        {2, 512, 0, 0},
+    };
+    for (const auto& c : cases) {
+        StretchKernelMode = c.mode;
+        ProcessorFeatures.cpuHasMMX = true;
+        BuildStretchFilterWeights();
+        EXPECT_EQ(static_cast<std::uint32_t>(StretchFilterWeights[c.entry]), c.packed) << c.mode << ", " << c.entry;
+        ProcessorFeatures.cpuHasMMX = false;
+        BuildStretchFilterWeights();
+        EXPECT_EQ(StretchFilterWeights[c.entry], c.plain) << c.mode << ", " << c.entry;
+    }
+}
+
+TEST_F(StretchWeights, ChangeWithTheMode) {
+    ProcessorFeatures.cpuHasMMX = true;
+    EXPECT_EQ(StretchKernelMode, 1U);
+    EXPECT_FALSE(SetStretchKernelMode(1));
+    EXPECT_TRUE(SetStretchKernelMode(0));
+    EXPECT_EQ(StretchFilterWeights[0], 0x40004000);
+    EXPECT_FALSE(SetStretchKernelMode(0));
+    EXPECT_TRUE(SetStretchKernelMode(77)) << "any value is a mode";
+    EXPECT_FALSE(SetStretchKernelMode(77));
+    EXPECT_EQ(StretchKernelMode, 77U);
+    StretchFilterWeights[5] = 12345;
+    EXPECT_FALSE(SetStretchKernelMode(77));
+    EXPECT_EQ(StretchFilterWeights[5], 12345) << "rebuilt although nothing changed";
+    EXPECT_TRUE(SetStretchKernelMode(1));
+    EXPECT_EQ(StretchFilterWeights[0], 0x2AAB2AAB);
+}
+
+TEST(LookupTables, ClampAndGrayPalette) {
+    const ClampBytes clamp = MakeClampTable();
+    for (int value = -256; value <= 511; ++value)
+        EXPECT_EQ(clamp[static_cast<std::size_t>(value + 256)], value < 0 ? 0 : value > 255 ? 255 : value) << value;
+    for (DWORD level = 0; level < 256; ++level)
+        EXPECT_EQ(GreyPalette[level], 0xFF000000 | level << 16 | level << 8 | level);
+}
+
+}  // namespace
+}  // namespace zorvic
