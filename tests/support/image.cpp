@@ -16,7 +16,7 @@ std::byte* PixelAt(const BitmapLockInfo& image, std::int64_t x, std::int64_t y) 
 
 std::size_t SizeOf(const BitmapLockInfo& info, int behind) {
     const int lastRow = info.bmWidth * (info.bmBitsPixel / 8);
-    return static_cast<std::size_t>(guard + std::max(info.bmHeight - 1, 0) * info.bmWidthBytes + lastRow + behind);
+    return static_cast<std::size_t>(guard + std::max<int>(info.bmHeight - 1, 0) * info.bmWidthBytes + lastRow + behind);
 }
 
 }  // namespace
@@ -82,7 +82,7 @@ testing::AssertionResult SameBytes(const Image& got, const Image& wanted) {
     const BitmapLockInfo& info = got.info;
     const auto offset = different.in1 - gotBytes.begin() - guard;
     if (offset < 0) return testing::AssertionFailure() << "wrote " << -offset << " bytes before the first row";
-    const int stride = std::max(info.bmWidthBytes, 1);
+    const int stride = std::max<int>(info.bmWidthBytes, 1);
     const auto y = static_cast<int>(offset / stride);
     const auto x = static_cast<int>(offset % stride / (info.bmBitsPixel / 8));
     if (x >= info.bmWidth || y >= info.bmHeight)
