@@ -1,4 +1,5 @@
 // Canvas against canvas and color: cross-fades, blending of sources that count as opaque, and drawing in a color.
+#include "kernels/model.h"
 #include "raster/kernels.h"
 #include "raster/modulation.h"
 #include "support/image.h"
@@ -71,10 +72,7 @@ TEST(Modulation, MatchesTheFormulasOfEachChannel) {
             const std::uint32_t color = round % 2 ? random.Word() | 0xFF000000 : random.Pixel();
             Image wanted = dst;
             wanted.Fill([&](int x, int y) {
-                const std::uint32_t pixel = src.At(x, y);
-                const std::uint32_t s = bitsPixel == 8    ? static_cast<std::uint32_t>(src.Info().palette[pixel])
-                                        : bitsPixel == 24 ? 0xFF000000 | pixel
-                                                          : pixel;
+                const std::uint32_t s = SourceColor(src.Info(), x, y);
                 std::uint32_t result = 0;
                 for (int i = 0; i < 4; ++i) result |= ModulatedChannel(dst.At(x, y), s, color, i);
                 return result;

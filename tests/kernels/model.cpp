@@ -9,82 +9,48 @@ namespace zorvic {
 
 namespace {
 
-constexpr SlotMeaning meanings[] = {
-    {0, 2, Rows::nearest, Op::copy},
-    {3, 5, Rows::bilinear, Op::copy},
-    {6, 8, Rows::unscaled, Op::copy},
-    {9, 11, Rows::area, Op::copy},
-    {12, 14, Rows::bicubic, Op::copy},
-    {15, 15, Rows::solid, Op::mixColor},
-    {16, 16, Rows::unscaled, Op::opaqueAlpha},
-    {17, 19, Rows::bilinear, Op::multiply},
-    {20, 22, Rows::area, Op::copy},
-    {23, 25, Rows::nearest, Op::constantAlpha},
-    {26, 28, Rows::bilinear, Op::sourceOver},
-    {29, 31, Rows::bicubic, Op::sourceOver},
-    {32, 34, Rows::unscaled, Op::destinationOver},
-    {35, 37, Rows::bilinear, Op::multiply},
-    {38, 40, Rows::bilinear, Op::destinationOver},
-    {41, 43, Rows::bilinear, Op::constantAlpha},
-    {44, 46, Rows::bilinear, Op::destinationOver},
-    {47, 49, Rows::unscaled, Op::multiply},
-    {50, 52, Rows::unscaled, Op::constantAlpha},
-    {53, 55, Rows::bilinear, Op::constantAlpha},
-    {56, 58, Rows::nearest, Op::constantAlpha},
-    {59, 59, Rows::solid, Op::sourceOver},
-    {60, 60, Rows::unscaled, Op::crossFade},
-    {61, 61, Rows::solid, Op::makeOpaque},
-    {62, 62, Rows::solid, Op::multiply},
-    {63, 63, Rows::solid, Op::grayWash},
-    {64, 66, Rows::bilinear, Op::sourceOver},
-    {67, 67, Rows::nearest, Op::opaqueAlpha},
-    {68, 68, Rows::solid, Op::bitOr},
-    {69, 71, Rows::bicubic, Op::constantAlpha},
-    {72, 74, Rows::bilinear, Op::copy},
-    {75, 75, Rows::solid, Op::destinationOver},
-    {76, 78, Rows::nearest, Op::copy},
-    {79, 81, Rows::bicubic, Op::copy},
-    {82, 84, Rows::nearest, Op::colorKey},
-    {85, 87, Rows::unscaled, Op::colorKey},
-    {88, 90, Rows::nearest, Op::sourceOver},
-    {91, 91, Rows::solid, Op::copy},
-    {92, 94, Rows::bicubic, Op::sourceOver},
-    {95, 95, Rows::nearest, Op::crossFade},
-    {96, 98, Rows::unscaled, Op::sourceOver},
-    {99, 101, Rows::nearest, Op::colorKey},
-    {102, 104, Rows::bicubic, Op::constantAlpha},
-    {105, 107, Rows::nearest, Op::sourceOver},
+using enum Rows;
+using enum Op;
+
+// clang-format off
+constexpr SlotMeaning meanings[] = {  // by columns
+    {  0,   2, nearest, copy},             { 41,  43, bilinear, constantAlpha},   { 72,  74, bilinear, copy},
+    {  3,   5, bilinear, copy},            { 44,  46, bilinear, destinationOver}, { 75,  75, solid, destinationOver},
+    {  6,   8, unscaled, copy},            { 47,  49, unscaled, multiply},        { 76,  78, nearest, copy},
+    {  9,  11, area, copy},                { 50,  52, unscaled, constantAlpha},   { 79,  81, bicubic, copy},
+    { 12,  14, bicubic, copy},             { 53,  55, bilinear, constantAlpha},   { 82,  84, nearest, colorKey},
+    { 15,  15, solid, mixColor},           { 56,  58, nearest, constantAlpha},    { 85,  87, unscaled, colorKey},
+    { 16,  16, unscaled, opaqueAlpha},     { 59,  59, solid, sourceOver},         { 88,  90, nearest, sourceOver},
+    { 17,  19, bilinear, multiply},        { 60,  60, unscaled, crossFade},       { 91,  91, solid, copy},
+    { 20,  22, area, copy},                { 61,  61, solid, makeOpaque},         { 92,  94, bicubic, sourceOver},
+    { 23,  25, nearest, constantAlpha},    { 62,  62, solid, multiply},           { 95,  95, nearest, crossFade},
+    { 26,  28, bilinear, sourceOver},      { 63,  63, solid, grayWash},           { 96,  98, unscaled, sourceOver},
+    { 29,  31, bicubic, sourceOver},       { 64,  66, bilinear, sourceOver},      { 99, 101, nearest, colorKey},
+    { 32,  34, unscaled, destinationOver}, { 67,  67, nearest, opaqueAlpha},      {102, 104, bicubic, constantAlpha},
+    { 35,  37, bilinear, multiply},        { 68,  68, solid, bitOr},              {105, 107, nearest, sourceOver},
+    { 38,  40, bilinear, destinationOver}, { 69,  71, bicubic, constantAlpha},
 };
-
-// A sample for column x and row y of the whole draw.
-using Sampler = std::uint32_t (*)(const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y);
-
-std::uint32_t SameColumnAndRow(const BitmapLockInfo& src, const Placement&, std::int64_t x, std::int64_t y) {
-    return SourceColor(src, x, y);
-}
+// clang-format on
 
 std::int64_t Stepped(std::int64_t sourceExtent, std::int64_t wholeExtent, std::int64_t position) {
     const std::int64_t step = 65536 * sourceExtent / wholeExtent;
     return position * step / 65536;
 }
 
-std::uint32_t NearestSample(const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
-    return SourceColor(src, Stepped(src.bmWidth, whole.width, x), Stepped(src.bmHeight, whole.height, y));
-}
-
-Sampler SamplerOf(Rows rows) {
+// The sample for column x and row y of the whole draw.
+std::uint32_t Sample(Rows rows, const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
     switch (rows) {
-        case Rows::unscaled:
-            return SameColumnAndRow;
-        case Rows::nearest:
-        case Rows::bilinear:
-        case Rows::bicubic:
-        case Rows::area:
-            return NearestSample;
-        case Rows::solid:
+        case unscaled:
+            return SourceColor(src, x, y);
+        case nearest:
+        case bilinear:
+        case bicubic:
+        case area:
+            return SourceColor(src, Stepped(src.bmWidth, whole.width, x), Stepped(src.bmHeight, whole.height, y));
+        case solid:
             break;
     }
-    throw std::logic_error("no sampler");
+    throw std::logic_error("no sample");
 }
 
 enum { blue, green, red, alpha };
@@ -117,39 +83,39 @@ std::uint32_t Mixed(Op op, std::uint32_t dst, std::uint32_t src, std::uint32_t a
     if (amount == 255) return src;
     const std::uint32_t k = amount + 1;
     const Channels d = Split(dst), s = Split(src);
-    if (op == Op::crossFade) return Join(EachChannel([&](int i) { return (s.of[i] * k + d.of[i] * (256 - k)) / 256; }));
+    if (op == crossFade) return Join(EachChannel([&](int i) { return (s.of[i] * k + d.of[i] * (256 - k)) / 256; }));
     return Join(EachChannel([&](int i) { return d.of[i] * (256 - k) / 256 + s.of[i] * k / 256; }));
 }
 
 std::uint32_t Result(Op op, std::uint32_t dst, std::uint32_t src, std::uint32_t argument) {
     const Channels d = Split(dst), s = Split(src);
     switch (op) {
-        case Op::copy:
+        case copy:
             return src;
-        case Op::sourceOver:
+        case sourceOver:
             return Over(d, s);
-        case Op::constantAlpha:
+        case constantAlpha:
             return Over(d, Scaled(s, argument % 256 + 1));
-        case Op::opaqueAlpha:
+        case opaqueAlpha:
             return Over(d, Scaled({{s.of[blue], s.of[green], s.of[red], 255}}, argument % 256 + 1));
-        case Op::colorKey:
+        case colorKey:
             return src == argument ? dst : src;
-        case Op::multiply:
+        case multiply:
             return Join(EachChannel([&](int i) { return (s.of[i] + 1) * d.of[i] / 256; }));
-        case Op::destinationOver:
+        case destinationOver:
             return dst + Join(Scaled(s, 256 - d.of[alpha]));
-        case Op::bitOr:
+        case bitOr:
             return dst | src;
-        case Op::grayWash: {
+        case grayWash: {
             const std::uint32_t g = (d.of[blue] + 2 * d.of[green] + d.of[red]) / 4 * s.of[alpha] / 256;
             Channels washed = EachChannel([&](int i) { return d.of[i] * (256 - d.of[alpha]) / 256 + g; });
             washed.of[alpha] = d.of[alpha];
             return Join(washed);
         }
-        case Op::crossFade:
-        case Op::mixColor:
+        case crossFade:
+        case mixColor:
             return Mixed(op, dst, src, argument % 256);
-        case Op::makeOpaque:
+        case makeOpaque:
             return Join({{d.of[blue], d.of[green], d.of[red], 255}});
     }
     throw std::logic_error("no operation");
@@ -169,12 +135,11 @@ std::uint32_t SourceColor(const BitmapLockInfo& src, std::int64_t x, std::int64_
 
 void DrawByModel(int slot, const Job& job) {
     const SlotMeaning meaning = MeaningOf(slot);
-    const bool solid = meaning.rows == Rows::solid;
     for (int y = 0; y < job.dst.bmHeight; ++y)
         for (int x = 0; x < job.dst.bmWidth; ++x) {
             const std::int64_t column = job.placement.left + x, row = job.placement.top + y;
             const std::uint32_t sample =
-                solid ? job.color : SamplerOf(meaning.rows)(job.src, job.placement, column, row);
+                meaning.rows == solid ? job.color : Sample(meaning.rows, job.src, job.placement, column, row);
             WritePixelBytes(job.dst, x, y, Result(meaning.op, ReadPixelBytes(job.dst, x, y), sample, job.argument));
         }
 }

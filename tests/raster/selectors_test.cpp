@@ -14,23 +14,26 @@ struct Rule {
     int operation, lowestAlpha, highestAlpha, filterMode;
     int sameSize, placedSameSize, scaled, placed;
 };
+// clang-format off
 constexpr Rule rules[] = {
-    {3, 0, 255, any, 47, 47, 17, 35},                                            //
-    {6, 0, 255, any, 32, 44, 44, 38},                                            //
-    {any, 0, 0, any, none, none, none, none}, {any, 1, 254, 0, 50, 50, 23, 56},  // whatever the operation is
-    {any, 1, 254, 4, 50, 50, 69, 102},                                           //
-    {any, 1, 254, any, 50, 50, 41, 53},                                          //
-    {1, 255, 255, 0, 96, 96, 105, 88},                                           //
-    {1, 255, 255, 4, 96, 96, 92, 29},                                            //
-    {1, 255, 255, any, 96, 96, 26, 64},                                          //
-    {2, 255, 255, 0, 85, 85, 99, 82},                                            //
-    {2, 255, 255, 4, 85, 85, 92, 29},                                            //
-    {2, 255, 255, any, 85, 85, 26, 64},                                          //
-    {any, 255, 255, 0, 6, 6, 0, 76},                                             //
-    {any, 255, 255, 4, 6, 6, 12, 79},                                            //
-    {any, 255, 255, 5, 6, 6, 9, 20},                                             //
-    {any, 255, 255, any, 6, 6, 3, 72},
+    {3,   0,   255, any, 47,   47,   17,   35},
+    {6,   0,   255, any, 32,   44,   44,   38},
+    {any, 0,   0,   any, none, none, none, none},
+    {any, 1,   254, 0,   50,   50,   23,   56},
+    {any, 1,   254, 4,   50,   50,   69,   102},
+    {any, 1,   254, any, 50,   50,   41,   53},
+    {1,   255, 255, 0,   96,   96,   105,  88},
+    {1,   255, 255, 4,   96,   96,   92,   29},
+    {1,   255, 255, any, 96,   96,   26,   64},
+    {2,   255, 255, 0,   85,   85,   99,   82},
+    {2,   255, 255, 4,   85,   85,   92,   29},
+    {2,   255, 255, any, 85,   85,   26,   64},
+    {any, 255, 255, 0,   6,    6,    0,    76},
+    {any, 255, 255, 4,   6,    6,    12,   79},
+    {any, 255, 255, 5,   6,    6,    9,    20},
+    {any, 255, 255, any, 6,    6,    3,    72},
 };
+// clang-format on
 
 struct Request {
     std::uint32_t operation, filterMode;
@@ -54,13 +57,13 @@ int WantedSlot(const Request& r, bool placed) {
     return none;
 }
 
-int IndexOf(std::monostate) { return none; }
-template <class Kernel>
-int IndexOf(const Slot<Kernel>& slot) {
-    return slot.index;
-}
 int IndexOf(const DrawChoice& choice) {
-    return std::visit([](const auto& slot) { return IndexOf(slot); }, choice);
+    return std::visit(
+        [](const auto& slot) {
+            if constexpr (requires { slot.index; }) return slot.index;
+            return none;
+        },
+        choice);
 }
 
 // Calls check(request) for every combination.
