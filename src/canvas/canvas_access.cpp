@@ -61,7 +61,7 @@ bool CanvasLock::DcShows(const BITMAP& image, const RECT& device) const {
 }
 
 bool CanvasLock::CopyFromDc() {
-    // Kernels step through larger images wrongly.
+    // The bytes of a larger image may not fit 32 bits.
     if (WidthOf(area) > maxExtent || HeightOf(area) > maxExtent) return false;
     BITMAP description{};
     description.bmWidth = area.right - area.left;

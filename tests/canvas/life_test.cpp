@@ -140,29 +140,28 @@ TEST(CanvasLife, ACanvasOnADeviceContextOnlyBorrowsIt) {
     EXPECT_EQ(ReleaseDC(desktop, screen), 1);
 }
 
-TEST(CanvasLife, TexturesOutliveTheCanvasTheyCameFrom) {
-    for (const bool withDc : {false, true}) {
-        const HGCANVAS canvas = CreateCanvas(9, 7, nullptr);
-        SetCanvasFilter(canvas, 0x01000000);
-        if (withDc) GetCanvasHandle(canvas);
-        Fill(canvas, Pattern{});
-        const OwnedTexture texture(CanvasToTexture(canvas));
-        ASSERT_TRUE(texture);
-        EXPECT_TRUE(Shows(texture.get(), Pattern{})) << "the device context let the pixels go";
-        EXPECT_NE(GetTextureHandle(texture.get()), nullptr);
-        EXPECT_TRUE(Shows(texture.get(), Pattern{}));
-    }
-}
-
-// The texture keeps the pixels that it was made from; the canvas draws on its new ones.
-TEST(CanvasLife, ATextureKeepsItsPixelsWhenTheSurfaceMoves) {
-    const OwnedCanvas canvas(CreateCanvas(9, 7, nullptr));
-    Fill(canvas.get(), Pattern{});
-    const OwnedTexture texture(GetTexture(canvas.get()));
-    GetCanvasHandle(canvas.get());
-    Fill(canvas.get(), Pattern{2});
-    EXPECT_TRUE(Shows(texture.get(), Pattern{}));
-    EXPECT_TRUE(Shows(canvas.get(), Pattern{2}));
+// Only source-over says that the alpha bytes mean something.
+TEST(CanvasLife, BecomesATextureOpaqueUnlessItHasAlpha) {
+    for (const bool withDc : {false, true})
+        for (const DWORD filter : {0x01000000UL, 0x01ABCDEFUL, 0x00000000UL, 0x02112233UL, 0x00000001UL}) {
+            SCOPED_TRACE(filter);
+            const HGCANVAS canvas = CreateCanvas(9, 7, nullptr);
+            EXPECT_TRUE(!withDc || GetCanvasHandle(canvas));
+            SetCanvasFilter(canvas, filter);
+            SetBitmapFilter(GetBitmap(canvas), 0x01000000);  // the canvas's word is what counts
+            Fill(canvas, Pattern{});
+            const OwnedTexture texture(CanvasToTexture(canvas));
+            ASSERT_TRUE(texture);
+            const DWORD opaque = filter >> 24 == 1 ? 0 : 0xFF000000;
+            const auto picture = [=](int x, int y) { return Pattern{}(x, y) | opaque; };
+            EXPECT_TRUE(Shows(texture.get(), picture));
+            EXPECT_EQ(FilterOf(AsBitmap(texture.get())), filter);
+            const GdiBitmap target = GdiBitmap::Dib(9, 7);
+            const HGDIOBJ previous = SelectObject(target.Dc(), GetTextureHandle(texture.get()));
+            EXPECT_NE(previous, nullptr) << "no device context holds its pixels any more";
+            SelectObject(target.Dc(), previous);
+            EXPECT_TRUE(Shows(texture.get(), picture));
+        }
 }
 
 TEST(CanvasLife, AnyCanvasBecomesATexture) {
