@@ -27,18 +27,21 @@ consteval SlotMask AllBut(std::initializer_list<int> slots) {
 
 struct Overlay {
     Stage stage;
-    const KernelSet& kernels;
     SlotMask slots;
 };
 
-// Every stage brings the baseline form until it has one of its own.
 constexpr Overlay overlays[] = {
-    {Stage::baseline, baselineKernels, AllBut({})},
-    {Stage::mmx, baselineKernels, AllBut({9, 10, 11, 16, 20, 21, 22, 61, 63, 67})},
-    {Stage::sse, baselineKernels, Only({8, 16, 67, 68, 91})},
-    {Stage::sse2, baselineKernels, Only({8, 9, 10, 11, 20, 21, 22})},
-    {Stage::primitives, baselineKernels, Only({52, 59, 91, 98})},
+    {Stage::baseline, AllBut({})},
+    {Stage::mmx, AllBut({9, 10, 11, 16, 20, 21, 22, 61, 63, 67})},
+    {Stage::sse, Only({8, 16, 67, 68, 91})},
+    {Stage::sse2, Only({8, 9, 10, 11, 20, 21, 22})},
+    {Stage::primitives, Only({52, 59, 91, 98})},
 };
+
+// Every stage brings the baseline form until it has one of its own; the weights in memory decide on the arithmetic.
+const KernelSet& KernelsOf(Stage, const CpuFeatures& features) {
+    return features.cpuHasMMX ? packedKernels : baselineKernels;
+}
 
 bool Applies(Stage stage, const CpuFeatures& features, bool primitiveLayer) {
     switch (stage) {
@@ -56,35 +59,37 @@ bool Applies(Stage stage, const CpuFeatures& features, bool primitiveLayer) {
     return false;
 }
 
-const Overlay& OverlayOfSlot(int slot, const CpuFeatures& features, bool primitiveLayer) {
-    const Overlay* last = &overlays[0];
-    for (const Overlay& overlay : overlays)
-        if (overlay.slots[static_cast<std::size_t>(slot)] && Applies(overlay.stage, features, primitiveLayer))
-            last = &overlay;
-    return *last;
-}
-
 }  // namespace
 
 CpuFeatures ProcessorFeatures;
 constinit KernelSet KernelTable{};
 
 Stage StageOfSlot(int slot, const CpuFeatures& features, bool primitiveLayer) {
-    return OverlayOfSlot(slot, features, primitiveLayer).stage;
+    Stage last = Stage::baseline;
+    for (const Overlay& overlay : overlays)
+        if (overlay.slots[static_cast<std::size_t>(slot)] && Applies(overlay.stage, features, primitiveLayer))
+            last = overlay.stage;
+    return last;
 }
 
 KernelSet MakeKernelTable(const CpuFeatures& features, bool primitiveLayer) {
     KernelSet table;
     for (int slot = 0; slot < slotCount; ++slot)
-        table.Take(slot, OverlayOfSlot(slot, features, primitiveLayer).kernels);
+        table.Take(slot, KernelsOf(StageOfSlot(slot, features, primitiveLayer), features));
     return table;
 }
 
-void InitKernelTable() {
-    DetectCpuFeatures(ProcessorFeatures);
+void FillTables(const CpuFeatures& features) {
+    ProcessorFeatures = features;
     BuildStretchFilterWeights();
-    if (!ProcessorFeatures.cpuHasMMX) ClampTable = MakeClampTable();
-    KernelTable = MakeKernelTable(ProcessorFeatures);
+    if (!features.cpuHasMMX) ClampTable = MakeClampTable();
+    KernelTable = MakeKernelTable(features);
+}
+
+void InitKernelTable() {
+    CpuFeatures features;
+    DetectCpuFeatures(features);
+    FillTables(features);
 }
 
 namespace {

@@ -16,7 +16,10 @@ Stage StageOfSlot(int slot, const CpuFeatures& features, bool primitiveLayer = f
 // The table of any processor.
 KernelSet MakeKernelTable(const CpuFeatures& features, bool primitiveLayer = false);
 
-// Detects the processor and fills the lookup tables and KernelTable. A static initialiser runs it before any export.
+// Fills KernelTable and the lookup tables that its kernels read for a processor: this one, or one that a test forces.
+void FillTables(const CpuFeatures& features);
+
+// Fills the tables for this processor. A static initialiser runs it before any export.
 void InitKernelTable();
 
 extern KernelSet KernelTable;

@@ -6,5 +6,6 @@
 namespace zorvic {
 
 extern const KernelSet baselineKernels;
+extern const KernelSet packedKernels;  // baseline, with the bicubic arithmetic of packed filter weights
 
 }  // namespace zorvic

@@ -3,4 +3,5 @@
 #include "raster/kernels.h"
 #include "raster/kernels_inl.h"
 
-constinit const zorvic::KernelSet zorvic::baselineKernels = zorvic::MakeKernels<zorvic::Baseline>();
+constinit const zorvic::KernelSet zorvic::baselineKernels =
+    zorvic::MakeKernels<zorvic::Baseline, zorvic::WeightEncoding::plain256>();

@@ -1,7 +1,8 @@
 // The loop that joins row source, operation and form, and the table of all kernels of one form.
 //
 // Only files that instantiate kernels include this. Everything it compiles stands in unnamed namespaces, because the
-// linker keeps one copy of a shared inline function, of std:: ones too, and might keep the one with wider instructions.
+// linker keeps one copy of a shared inline function, of std:: ones too, and might keep the one with wider
+// instructions.
 #pragma once
 
 #include <concepts>
@@ -11,14 +12,15 @@
 #include "raster/ops/channels.h"
 #include "raster/ops/compose.h"
 #include "raster/ops/mix.h"
+#include "raster/rows/area.h"
+#include "raster/rows/bicubic.h"
+#include "raster/rows/bilinear.h"
 #include "raster/rows/nearest.h"
 #include "raster/rows/solid.h"
 #include "raster/rows/unscaled.h"
 
 namespace zorvic {
 namespace {
-
-constexpr int chunk = 256;  // pixels fetched at once: 1 KiB stays in the first cache
 
 template <Form V>
 V Samples(const std::uint32_t* samples, int i) {
@@ -51,28 +53,47 @@ void ApplySpan(const Op& op, std::uint32_t* dst, Source src, int n) {
     }
 }
 
-// The only loop over pixels.
+// The only loop over pixels. Sources that prepare columns are walked in blocks of one chunk, so that what they prepare
+// fits the stack and serves every row; others row by row.
 template <Form V, class Source, class Operation>
-int RunKernel(const BitmapLockInfo& dst, const Source& rows, const Operation& op) {
+int RunKernel(const BitmapLockInfo& dst, Source rows, const Operation& op) {
     alignas(32) std::uint32_t scratch[chunk];
-    auto* row = static_cast<std::byte*>(dst.bmBits);
-    for (int y = 0; y < dst.bmHeight; ++y, row += dst.bmWidthBytes)
-        for (int x = 0; x < dst.bmWidth; x += chunk) {
-            const int n = dst.bmWidth - x < chunk ? dst.bmWidth - x : chunk;
-            ApplySpan<V>(op, reinterpret_cast<std::uint32_t*>(row) + x, rows.Fetch(y, x, n, scratch), n);
-        }
+    const int blockWidth = Source::preparesColumns ? chunk : dst.bmWidth;
+    for (int block = 0; block < dst.bmWidth; block += blockWidth) {
+        const int end = dst.bmWidth - block < blockWidth ? dst.bmWidth : block + blockWidth;
+        if constexpr (Source::preparesColumns) rows.PrepareColumns(block, end - block);
+        auto* row = static_cast<std::byte*>(dst.bmBits);
+        for (int y = 0; y < dst.bmHeight; ++y, row += dst.bmWidthBytes)
+            for (int x = block; x < end; x += chunk) {
+                const int n = end - x < chunk ? end - x : chunk;
+                ApplySpan<V>(op, reinterpret_cast<std::uint32_t*>(row) + x, rows.Fetch(y, x, n, scratch), n);
+            }
+    }
     return 1;
 }
 
-// Names of rows and operations to the types that do them. Filtered rows are sampled to the nearest pixel so far.
-template <Rows rows, SourceDepth depth>
-struct RowSource {
-    using Type = NearestRows<depth>;
-};
-template <SourceDepth depth>
-struct RowSource<Rows::unscaled, depth> {
-    using Type = UnscaledRows<depth>;
-};
+// Runs an operation on the row source of that name.
+template <Form V, WeightEncoding weights, Rows rows, SourceDepth depth, class Operation>
+int RunRows(const BitmapLockInfo& dst, const Placement& placement, const BitmapLockInfo& src, const Operation& op) {
+    if constexpr (rows == Rows::unscaled) {
+        return RunKernel<V>(dst, UnscaledRows<depth>(src, placement), op);
+    } else if constexpr (rows == Rows::nearest) {
+        return RunKernel<V>(dst, NearestRows<depth>(src, placement), op);
+    } else if constexpr (rows == Rows::bilinear) {
+        // The steps drift by a unit per pixel; at the source's own size that must not show.
+        if (src.bmWidth == placement.width && src.bmHeight == placement.height)
+            return RunRows<V, weights, Rows::unscaled, depth>(dst, placement, src, op);
+        return RunKernel<V>(dst, BilinearRows<V, depth>(src, placement), op);
+    } else if constexpr (rows == Rows::bicubic) {
+        return RunKernel<V>(dst, BicubicRows<weights, depth>(src, placement), op);
+    } else {
+        if (src.bmWidth < placement.width || src.bmHeight < placement.height)
+            return RunRows<V, weights, Rows::bicubic, depth>(dst, placement, src, op);
+        if (src.bmWidth <= 16 * placement.width && src.bmHeight <= 16 * placement.height)
+            return RunKernel<V>(dst, AreaRows<ShortSpan, depth>(src, placement), op);
+        return RunKernel<V>(dst, AreaRows<LongSpan, depth>(src, placement), op);
+    }
+}
 
 template <Op op>
 struct Operator;
@@ -92,60 +113,61 @@ template <> struct Operator<Op::makeOpaque> { using Type = MakeOpaque; };
 // clang-format on
 
 // A kernel's entry point: turns the argument list into a row source and an operation.
-template <Form V, Rows rows, Op op, SourceDepth depth, class Kernel>
+template <Form V, WeightEncoding weights, Rows rows, Op op, SourceDepth depth, class Kernel>
 struct Entry;
 
-template <Form V, Rows rows, Op op, SourceDepth depth, class... Args>
-struct Entry<V, rows, op, depth, int (*)(const BitmapLockInfo&, const BitmapLockInfo&, Args...)> {
+template <Form V, WeightEncoding weights, Rows rows, Op op, SourceDepth depth, class... Args>
+struct Entry<V, weights, rows, op, depth, int (*)(const BitmapLockInfo&, const BitmapLockInfo&, Args...)> {
     static int Run(const BitmapLockInfo& dst, const BitmapLockInfo& src, Args... args) {
-        return RunKernel<V>(dst, typename RowSource<rows, depth>::Type(src, WholeOf(dst)),
-                            typename Operator<op>::Type(args...));
+        const typename Operator<op>::Type operation(args...);
+        return RunRows<V, weights, rows, depth>(dst, WholeOf(dst), src, operation);
     }
 };
 
-template <Form V, Rows rows, Op op, SourceDepth depth, class... Args>
-struct Entry<V, rows, op, depth, int (*)(const BitmapLockInfo&, const Placement&, const BitmapLockInfo&, Args...)> {
+template <Form V, WeightEncoding weights, Rows rows, Op op, SourceDepth depth, class... Args>
+struct Entry<V, weights, rows, op, depth,
+             int (*)(const BitmapLockInfo&, const Placement&, const BitmapLockInfo&, Args...)> {
     static int Run(const BitmapLockInfo& dst, const Placement& placement, const BitmapLockInfo& src, Args... args) {
-        return RunKernel<V>(dst, typename RowSource<rows, depth>::Type(src, placement),
-                            typename Operator<op>::Type(args...));
+        const typename Operator<op>::Type operation(args...);
+        return RunRows<V, weights, rows, depth>(dst, placement, src, operation);
     }
 };
 
-template <Form V, Op op, SourceDepth depth, std::same_as<std::uint32_t>... Args>
-struct Entry<V, Rows::solid, op, depth, int (*)(const BitmapLockInfo&, std::uint32_t, Args...)> {
+template <Form V, WeightEncoding weights, Op op, SourceDepth depth, std::same_as<std::uint32_t>... Args>
+struct Entry<V, weights, Rows::solid, op, depth, int (*)(const BitmapLockInfo&, std::uint32_t, Args...)> {
     static int Run(const BitmapLockInfo& dst, std::uint32_t color, Args... args) {
         return RunKernel<V>(dst, SolidRows(color), typename Operator<op>::Type(args...));
     }
 };
 
-template <Form V, Op op, SourceDepth depth>
-struct Entry<V, Rows::solid, op, depth, InPlace> {
+template <Form V, WeightEncoding weights, Op op, SourceDepth depth>
+struct Entry<V, weights, Rows::solid, op, depth, InPlace> {
     static int Run(const BitmapLockInfo& dst) { return RunKernel<V>(dst, SolidRows(0), typename Operator<op>::Type()); }
 };
 
-template <Form V, auto slot, SourceDepth depth, class Kernel>
+template <Form V, WeightEncoding weights, auto slot, SourceDepth depth, class Kernel>
 constexpr void AddKernel(KernelSet& set, Slot<Kernel> target) {
-    set.Put(target, Entry<V, slot.rows, slot.op, depth, Kernel>::Run);
+    set.Put(target, Entry<V, weights, slot.rows, slot.op, depth, Kernel>::Run);
 }
 
-template <Form V, auto slot, class Kernel>
+template <Form V, WeightEncoding weights, auto slot, class Kernel>
 constexpr void AddKernels(KernelSet& set, Slot<Kernel> single) {
-    AddKernel<V, slot, SourceDepth::argb32>(set, single);
+    AddKernel<V, weights, slot, SourceDepth::argb32>(set, single);
 }
 
-template <Form V, auto slot, class Kernel>
+template <Form V, WeightEncoding weights, auto slot, class Kernel>
 constexpr void AddKernels(KernelSet& set, Group<Kernel> group) {
-    AddKernel<V, slot, SourceDepth::palette8>(set, group[SourceDepth::palette8]);
-    AddKernel<V, slot, SourceDepth::rgb24>(set, group[SourceDepth::rgb24]);
-    AddKernel<V, slot, SourceDepth::argb32>(set, group[SourceDepth::argb32]);
+    AddKernel<V, weights, slot, SourceDepth::palette8>(set, group[SourceDepth::palette8]);
+    AddKernel<V, weights, slot, SourceDepth::rgb24>(set, group[SourceDepth::rgb24]);
+    AddKernel<V, weights, slot, SourceDepth::argb32>(set, group[SourceDepth::argb32]);
 }
 
-// Every slot's kernel in one form.
-template <Form V>
+// Every slot's kernel in one form, its bicubic ones for one encoding of the filter weights.
+template <Form V, WeightEncoding weights>
 consteval KernelSet MakeKernels() {
     KernelSet set;
     [&]<std::size_t... i>(std::index_sequence<i...>) {
-        (AddKernels<V, std::get<i>(slots::all)>(set, std::get<i>(slots::all)), ...);
+        (AddKernels<V, weights, std::get<i>(slots::all)>(set, std::get<i>(slots::all)), ...);
     }
     (std::make_index_sequence<std::tuple_size_v<decltype(slots::all)>>());
     return set;

@@ -20,6 +20,7 @@ struct Baseline {
         return v;
     }
     static Baseline Broadcast(std::uint32_t word) { return {word}; }
+    static Weight LoadWeights(const std::uint32_t* in) { return *in; }
     static Weight Uniform(int factor) { return static_cast<Weight>(factor); }
     void Store(std::uint32_t* out) const { std::memcpy(out, &pixel, sizeof pixel); }
 
@@ -37,6 +38,16 @@ inline Baseline MixBytes(Baseline a, Baseline::Weight k, Baseline b, Baseline::W
     const std::uint32_t even = ((a.pixel & evenBytes) * k + (b.pixel & evenBytes) * l) >> 8;
     const std::uint32_t odd = (a.pixel >> 8 & evenBytes) * k + (b.pixel >> 8 & evenBytes) * l;
     return {(even & evenBytes) | (odd & oddBytes)};
+}
+
+inline Baseline MixTaps(Baseline p00, Baseline p10, Baseline p01, Baseline p11, Baseline::Weight tx,
+                        Baseline::Weight ty) {
+    const std::uint32_t w11 = tx * ty >> 8, w10 = tx - w11, w01 = ty - w11, w00 = 256 - tx - w01;
+    const auto sum = [&](int shift) {
+        return (p00.pixel >> shift & evenBytes) * w00 + (p10.pixel >> shift & evenBytes) * w10 +
+               (p01.pixel >> shift & evenBytes) * w01 + (p11.pixel >> shift & evenBytes) * w11;
+    };
+    return {(sum(0) >> 8 & evenBytes) | (sum(8) & oddBytes)};
 }
 
 inline Baseline Scale(Baseline v, Baseline::Weight k) {

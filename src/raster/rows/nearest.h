@@ -10,6 +10,8 @@ namespace {
 template <SourceDepth depth>
 class NearestRows {
 public:
+    static constexpr bool preparesColumns = false;
+
     NearestRows(const BitmapLockInfo& source, const Placement& placement)
         : src(source),
           stepX((static_cast<std::int64_t>(source.bmWidth) << 16) / placement.width),

@@ -8,6 +8,8 @@
 namespace zorvic {
 namespace {
 
+constexpr int chunk = 256;  // pixels fetched at once: 1 KiB stays in the first cache
+
 inline const std::byte* SourceRow(const BitmapLockInfo& src, std::ptrdiff_t y) {
     return static_cast<const std::byte*>(src.bmBits) + y * src.bmWidthBytes;
 }

@@ -13,6 +13,8 @@ struct SolidColor {
 
 class SolidRows {
 public:
+    static constexpr bool preparesColumns = false;
+
     explicit SolidRows(std::uint32_t solidColor) : sample{solidColor} {}
 
     SolidColor Fetch(int, int, int, std::uint32_t*) const { return sample; }

@@ -9,6 +9,8 @@ namespace {
 template <SourceDepth depth>
 class UnscaledRows {
 public:
+    static constexpr bool preparesColumns = false;
+
     UnscaledRows(const BitmapLockInfo& source, const Placement& placement)
         : src(source), left(static_cast<int>(placement.left)), top(static_cast<int>(placement.top)) {}
 

@@ -1,0 +1,173 @@
+// Area reduction: a destination pixel is the mean of the source box that it covers in 16.16 coordinates, by coverage
+// and per channel, truncated. For sources at least as large as the draw in both directions.
+#pragma once
+
+#include "raster/rows/pixel.h"
+#include "raster/rows/row_ring.h"
+
+namespace zorvic {
+namespace {
+
+// The source pixels that one destination column or row covers, and how much of the outer ones, in 1/65536.
+struct Coverage {
+    int first, last;
+    std::uint32_t firstWeight, lastWeight;
+
+    std::uint32_t WeightOf(int pixel) const {
+        if (pixel == first) return firstWeight;
+        return pixel == last ? lastWeight : 65536;
+    }
+};
+
+inline Coverage CoverageAt(std::int64_t index, std::int64_t step) {
+    const std::int64_t start = index * step, end = start + step;
+    const auto first = static_cast<int>(start >> 16), last = static_cast<int>((end - 1) >> 16);
+    if (first == last) return {first, last, static_cast<std::uint32_t>(step), 0};
+    return {first, last, static_cast<std::uint32_t>(65536 - (start & 0xFFFF)),
+            static_cast<std::uint32_t>(end - (static_cast<std::int64_t>(last) << 16))};
+}
+
+// Reductions of at most 16 times: a row's sum has 28 bits, a box's 48.
+struct ShortSpan {
+    using RowSum = std::uint32_t;
+
+    class Mean {
+    public:
+        explicit Mean(std::uint64_t boxArea) : area(boxArea), reciprocal(1.0 / static_cast<double>(boxArea)) {}
+
+        // The estimate is right but for the last step, which integers decide.
+        std::uint32_t Of(std::uint64_t total) const {
+            auto mean = static_cast<std::uint32_t>(static_cast<double>(total) * reciprocal);
+            if (mean * area > total) --mean;
+            if ((mean + 1) * area <= total) ++mean;
+            return mean;
+        }
+
+    private:
+        std::uint64_t area;
+        double reciprocal;
+    };
+
+    struct Total {
+        std::uint64_t sum = 0;
+        void Add(RowSum row, std::uint32_t weight) { sum += static_cast<std::uint64_t>(row) * weight; }
+        std::uint32_t Over(const Mean& mean) const { return mean.Of(sum); }
+    };
+};
+
+// Any reduction of 32767 pixels: a row's sum has 39 bits, a box's 70, kept in two limbs of 20 and 64 bits.
+struct LongSpan {
+    using RowSum = std::uint64_t;
+
+    static constexpr int lowBits = 20;
+    static constexpr std::uint64_t lowMask = (1U << lowBits) - 1;
+
+    class Mean {
+    public:
+        explicit Mean(std::uint64_t boxArea) : area(boxArea), reciprocal(1.0 / static_cast<double>(boxArea)) {}
+
+        std::uint32_t Of(std::uint64_t high, std::uint64_t low) const {
+            const double total = static_cast<double>(high) * (lowMask + 1) + static_cast<double>(low);
+            auto mean = static_cast<std::uint32_t>(total * reciprocal);
+            if (!Fits(mean, high, low)) --mean;
+            if (Fits(mean + 1, high, low)) ++mean;
+            return mean;
+        }
+
+    private:
+        // mean x area <= total
+        bool Fits(std::uint32_t mean, std::uint64_t high, std::uint64_t low) const {
+            const std::uint64_t lowProduct = mean * (area & lowMask);
+            const std::uint64_t highProduct = mean * (area >> lowBits) + (lowProduct >> lowBits);
+            return highProduct < high || (highProduct == high && (lowProduct & lowMask) <= low);
+        }
+
+        std::uint64_t area;
+        double reciprocal;
+    };
+
+    struct Total {
+        std::uint64_t high = 0, low = 0;
+        void Add(RowSum row, std::uint32_t weight) {
+            high += (row >> lowBits) * weight;
+            low += (row & lowMask) * weight;
+        }
+        std::uint32_t Over(const Mean& mean) const { return mean.Of(high + (low >> lowBits), low & lowMask); }
+    };
+};
+
+template <class Span, SourceDepth depth>
+class AreaRows {
+public:
+    static constexpr bool preparesColumns = true;
+
+    AreaRows(const BitmapLockInfo& source, const Placement& placement)
+        : src(source),
+          stepX(Step(source.bmWidth, placement.width)),
+          stepY(Step(source.bmHeight, placement.height)),
+          left(placement.left),
+          top(placement.top),
+          mean(static_cast<std::uint64_t>(stepX * stepY)) {}
+
+    void PrepareColumns(int x, int n) {
+        columnCount = n;
+        sums.Clear();
+        for (int i = 0; i < n; ++i) columns[i] = CoverageAt(left + x + i, stepX);
+    }
+
+    const std::uint32_t* Fetch(int y, int, int n, std::uint32_t* scratch) {
+        const Coverage lines = CoverageAt(top + y, stepY);
+        for (int i = 0; i < n; ++i)
+            for (auto& total : totals[i]) total = {};
+        for (int sourceRow = lines.first; sourceRow <= lines.last; ++sourceRow) {
+            const RowSums& row = SumsOfRow(sourceRow);
+            const std::uint32_t weight = lines.WeightOf(sourceRow);
+            for (int i = 0; i < n; ++i)
+                for (int channel = 0; channel < 4; ++channel) totals[i][channel].Add(row.channels[i][channel], weight);
+        }
+        for (int i = 0; i < n; ++i) {
+            scratch[i] = 0;
+            for (int channel = 0; channel < 4; ++channel) scratch[i] |= totals[i][channel].Over(mean) << (8 * channel);
+        }
+        return scratch;
+    }
+
+private:
+    struct RowSums {
+        typename Span::RowSum channels[chunk][4];
+    };
+
+    static std::int64_t Step(int sourceExtent, std::int64_t drawExtent) {
+        return (static_cast<std::int64_t>(sourceExtent) << 16) / drawExtent;
+    }
+
+    // A row that two destination rows share is summed once.
+    const RowSums& SumsOfRow(int sourceRow) {
+        return sums.Get(sourceRow, [&](RowSums& row) {
+            const std::byte* pixels = SourceRow(src, sourceRow);
+            for (int i = 0; i < columnCount; ++i) {
+                const Coverage& column = columns[i];
+                typename Span::RowSum sum[4] = {};
+                for (int x = column.first; x <= column.last; ++x) {
+                    const std::uint32_t pixel = ReadPixel<depth>(src, pixels, x);
+                    const typename Span::RowSum weight = column.WeightOf(x);
+                    for (int channel = 0; channel < 4; ++channel)
+                        sum[channel] += (pixel >> (8 * channel) & 0xFF) * weight;
+                }
+                for (int channel = 0; channel < 4; ++channel) row.channels[i][channel] = sum[channel];
+            }
+        });
+    }
+
+    const BitmapLockInfo& src;
+    std::int64_t stepX, stepY;
+    std::int64_t left, top;
+    typename Span::Mean mean;
+    int columnCount = 0;
+    Coverage columns[chunk];
+    RowRing<RowSums, 1> sums;
+    typename Span::Total totals[chunk][4];
+};
+
+}  // namespace
+}  // namespace zorvic

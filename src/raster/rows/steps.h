@@ -1,0 +1,38 @@
+// Where the pixels of a filtered draw fall in the source, in 16.16 fixed point. Centres map to centres: destination
+// column i of an extent lies at (step >> 1) - 1/2 + i x step, the step being the truncated quotient of the extents
+// plus one unit; the fraction is used with 8 bits.
+#pragma once
+
+#include "raster/image.h"
+
+namespace zorvic {
+namespace {
+
+constexpr int ClampIndex(std::int64_t index, int extent) {
+    return index < 0 ? 0 : index >= extent ? extent - 1 : static_cast<int>(index);
+}
+
+// A position between two source pixels: the whole part, and the fraction in 1/256.
+struct Position {
+    std::int64_t pixel;
+    int fraction;
+};
+
+class CenteredSteps {
+public:
+    CenteredSteps(int sourceExtent, std::int64_t drawExtent, std::int64_t firstIndex)
+        : step((static_cast<std::int64_t>(sourceExtent) << 16) / drawExtent + 1),
+          start((step >> 1) - 32768 + firstIndex * step) {}
+
+    Position At(int i) const {
+        const std::int64_t f = start + i * step;
+        return {f >> 16, static_cast<int>(f >> 8 & 0xFF)};
+    }
+
+private:
+    std::int64_t step;
+    std::int64_t start;
+};
+
+}  // namespace
+}  // namespace zorvic
