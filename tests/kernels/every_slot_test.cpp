@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "kernels/slot_calls.h"
+#include "raster/kernel_table.h"
 #include "support/image.h"
 
 namespace zorvic {
@@ -13,6 +14,13 @@ using Parameter = std::tuple<NamedKernels, SlotCall>;
 
 class EverySlot : public testing::TestWithParam<Parameter> {
 protected:
+    EverySlot() {
+        CpuFeatures features;
+        features.cpuHasMMX = std::get<NamedKernels>(GetParam()).packedWeights;
+        FillTables(features);
+    }
+    ~EverySlot() override { InitKernelTable(); }
+
     const KernelSet& Kernels() const { return *std::get<NamedKernels>(GetParam()).kernels; }
     const SlotCall& Slot() const { return std::get<SlotCall>(GetParam()); }
 

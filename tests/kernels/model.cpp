@@ -1,8 +1,11 @@
 #include "kernels/model.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <stdexcept>
 
+#include "raster/cpu_features.h"
+#include "raster/lookup_tables.h"
 #include "support/image.h"
 
 namespace zorvic {
@@ -32,27 +35,6 @@ constexpr SlotMeaning meanings[] = {  // by columns
 };
 // clang-format on
 
-std::int64_t Stepped(std::int64_t sourceExtent, std::int64_t wholeExtent, std::int64_t position) {
-    const std::int64_t step = 65536 * sourceExtent / wholeExtent;
-    return position * step / 65536;
-}
-
-// The sample for column x and row y of the whole draw.
-std::uint32_t Sample(Rows rows, const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
-    switch (rows) {
-        case unscaled:
-            return SourceColor(src, x, y);
-        case nearest:
-        case bilinear:
-        case bicubic:
-        case area:
-            return SourceColor(src, Stepped(src.bmWidth, whole.width, x), Stepped(src.bmHeight, whole.height, y));
-        case solid:
-            break;
-    }
-    throw std::logic_error("no sample");
-}
-
 enum { blue, green, red, alpha };
 
 struct Channels {
@@ -69,6 +51,111 @@ std::uint32_t Join(const Channels& c) {
 template <class Formula>
 Channels EachChannel(Formula formula) {
     return {{formula(blue), formula(green), formula(red), formula(alpha)}};
+}
+
+std::int64_t Stepped(std::int64_t sourceExtent, std::int64_t wholeExtent, std::int64_t position) {
+    const std::int64_t step = 65536 * sourceExtent / wholeExtent;
+    return position * step / 65536;
+}
+
+std::uint32_t NearestSample(const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
+    return SourceColor(src, Stepped(src.bmWidth, whole.width, x), Stepped(src.bmHeight, whole.height, y));
+}
+
+// A filter's coordinate: in 1/256 of a source pixel, centres on centres, with the step's extra unit.
+std::int64_t FilterPosition(std::int64_t sourceExtent, std::int64_t wholeExtent, std::int64_t position) {
+    const std::int64_t step = 65536 * sourceExtent / wholeExtent + 1;
+    const std::int64_t at = step / 2 - 32768 + position * step;
+    return (at - ((at % 256 + 256) % 256)) / 256;
+}
+
+// The source pixel at (x, y), or the nearest one that there is.
+Channels Tap(const BitmapLockInfo& src, std::int64_t x, std::int64_t y) {
+    return Split(SourceColor(src, std::clamp<std::int64_t>(x, 0, src.bmWidth - 1),
+                             std::clamp<std::int64_t>(y, 0, src.bmHeight - 1)));
+}
+
+std::uint32_t BilinearSample(const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
+    if (src.bmWidth == whole.width && src.bmHeight == whole.height) return SourceColor(src, x, y);
+    const std::int64_t px = FilterPosition(src.bmWidth, whole.width, x) + 256;
+    const std::int64_t py = FilterPosition(src.bmHeight, whole.height, y) + 256;
+    const std::int64_t n = px / 256 - 1, m = py / 256 - 1;
+    const auto tx = static_cast<std::uint32_t>(px % 256), ty = static_cast<std::uint32_t>(py % 256);
+    const std::uint32_t both = tx * ty / 256;
+    return Join(EachChannel([&](int i) {
+        return (Tap(src, n, m).of[i] * (256 - tx - ty + both) + Tap(src, n + 1, m).of[i] * (tx - both) +
+                Tap(src, n, m + 1).of[i] * (ty - both) + Tap(src, n + 1, m + 1).of[i] * both) /
+               256;
+    }));
+}
+
+// The weight of the tap k pixels from the one before the position.
+int TapWeight(std::int64_t position, int k) {
+    const std::int64_t distance = std::abs(256 * k - (position + 512) % 256);
+    const std::int32_t entry = StretchFilterWeights[static_cast<std::size_t>(distance)];
+    return ProcessorFeatures.cpuHasMMX ? static_cast<std::int16_t>(entry & 0xFFFF) : entry;
+}
+
+std::int64_t FloorShift(std::int64_t value, int bits) {
+    const std::int64_t unit = std::int64_t{1} << bits;
+    return value >= 0 ? value / unit : -((-value + unit - 1) / unit);
+}
+
+std::uint32_t BicubicSample(const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
+    const std::int64_t px = FilterPosition(src.bmWidth, whole.width, x);
+    const std::int64_t py = FilterPosition(src.bmHeight, whole.height, y);
+    const std::int64_t n = FloorShift(px, 8), m = FloorShift(py, 8);
+    return Join(EachChannel([&](int i) {
+        std::int64_t total = 0;
+        for (int row = -1; row <= 2; ++row) {
+            std::int64_t sum = 0;
+            for (int column = -1; column <= 2; ++column)
+                sum += std::int64_t{Tap(src, n + column, m + row).of[i]} * TapWeight(px, column);
+            if (ProcessorFeatures.cpuHasMMX) sum = FloorShift(sum + 128, 8);
+            total += sum * TapWeight(py, row);
+        }
+        const std::int64_t value = ProcessorFeatures.cpuHasMMX ? FloorShift(total + 524288, 20) : FloorShift(total, 16);
+        return static_cast<std::uint32_t>(std::clamp<std::int64_t>(value, 0, 255));
+    }));
+}
+
+std::uint32_t AreaSample(const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
+    if (src.bmWidth < whole.width || src.bmHeight < whole.height) return BicubicSample(src, whole, x, y);
+    const std::int64_t width = 65536 * std::int64_t{src.bmWidth} / whole.width;
+    const std::int64_t height = 65536 * std::int64_t{src.bmHeight} / whole.height;
+    const auto overlap = [](std::int64_t pixel, std::int64_t from, std::int64_t extent) {
+        return std::max<std::int64_t>(0,
+                                      std::min(pixel * 65536 + 65536, from + extent) - std::max(pixel * 65536, from));
+    };
+    std::uint64_t sums[4] = {};
+    for (std::int64_t row = y * height / 65536; row * 65536 < (y + 1) * height; ++row)
+        for (std::int64_t column = x * width / 65536; column * 65536 < (x + 1) * width; ++column) {
+            const Channels pixel = Split(SourceColor(src, column, row));
+            for (int i = 0; i < 4; ++i)
+                sums[i] += std::uint64_t{pixel.of[i]} * static_cast<std::uint64_t>(overlap(column, x * width, width) *
+                                                                                   overlap(row, y * height, height));
+        }
+    return Join(EachChannel(
+        [&](int i) { return static_cast<std::uint32_t>(sums[i] / static_cast<std::uint64_t>(width * height)); }));
+}
+
+// The sample for column x and row y of the whole draw.
+std::uint32_t Sample(Rows rows, const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
+    switch (rows) {
+        case unscaled:
+            return SourceColor(src, x, y);
+        case nearest:
+            return NearestSample(src, whole, x, y);
+        case bilinear:
+            return BilinearSample(src, whole, x, y);
+        case bicubic:
+            return BicubicSample(src, whole, x, y);
+        case area:
+            return AreaSample(src, whole, x, y);
+        case solid:
+            break;
+    }
+    throw std::logic_error("no sample");
 }
 
 Channels Scaled(const Channels& c, std::uint32_t k) {

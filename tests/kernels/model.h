@@ -22,6 +22,7 @@ struct SlotMeaning {
 };
 SlotMeaning MeaningOf(int slot);
 
+// Filters by the weights that the processor, or the one that is forced, has in memory.
 void DrawByModel(int slot, const Job& job);
 
 // A source pixel as the ARGB word that is drawn.

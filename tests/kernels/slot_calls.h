@@ -10,15 +10,17 @@
 
 namespace zorvic {
 
-// A kernel set under test; a line for each form.
+// A kernel set under test, on a processor that has its filter weights in memory; a line for each form.
 struct NamedKernels {
     const char* name;
     const KernelSet* kernels;
+    bool packedWeights;
 
     friend void PrintTo(const NamedKernels& kernels, std::ostream* out) { *out << kernels.name; }
 };
 inline constexpr NamedKernels kernelSets[] = {
-    {"baseline", &baselineKernels},
+    {"baseline", &baselineKernels, false},
+    {"packed", &packedKernels, true},
 };
 
 struct SlotCall {

@@ -23,8 +23,8 @@ std::vector<Request> Requests() {
 struct Sizes {
     int sourceWidth, sourceHeight, width, height;
 };
-constexpr Sizes allSizes[] = {{7, 5, 19, 13}, {64, 31, 17, 9}, {9, 40, 31, 11},  {300, 3, 257, 7},
-                              {1, 1, 40, 3},  {3, 2, 600, 5},  {23, 11, 23, 11}, {23, 11, 23, 12}};
+constexpr Sizes allSizes[] = {{7, 5, 19, 13}, {64, 31, 17, 9},  {9, 40, 31, 11},  {300, 3, 257, 7}, {1, 1, 40, 3},
+                              {3, 2, 600, 5}, {23, 11, 23, 11}, {23, 11, 23, 12}, {400, 3, 10, 120}};
 
 TEST(PlacedDraw, IsACropOfTheWholeDraw) {
     Random random(3);

@@ -1,11 +1,13 @@
 // The last few source rows that a filtering row source has prepared for one block of columns.
 #pragma once
 
+#include <cstddef>
+
 namespace zorvic {
 namespace {
 
 // Consecutive source rows find separate places, so any `count` neighbours are kept at once.
-template <class Row, int count>
+template <class Row, std::size_t count>
 class RowRing {
 public:
     void Clear() {
@@ -14,7 +16,7 @@ public:
 
     template <class Make>
     const Row& Get(int sourceRow, Make make) {
-        const auto place = static_cast<unsigned>(sourceRow) % count;
+        const std::size_t place = static_cast<std::size_t>(sourceRow) % count;
         if (sourceRows[place] != sourceRow) {
             make(rows[place]);
             sourceRows[place] = sourceRow;
