@@ -2,7 +2,7 @@
 set -u
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 logs="$root/build/logs"
-heartbeat_seconds=10
+heartbeat_seconds=15
 export LC_ALL=C.UTF-8
 
 step() { printf '==> %s\n' "$*"; }
