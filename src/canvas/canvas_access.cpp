@@ -61,7 +61,7 @@ bool CanvasLock::DcShows(const BITMAP& image, const RECT& device) const {
 }
 
 bool CanvasLock::CopyFromDc() {
-    // The bytes of a larger image may not fit 32 bits.
+    // The limit of every surface; the differences below fit 32 bits with it, too.
     if (WidthOf(area) > maxExtent || HeightOf(area) > maxExtent) return false;
     BITMAP description{};
     description.bmWidth = area.right - area.left;
