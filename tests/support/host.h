@@ -142,8 +142,9 @@ testing::AssertionResult Shows(Handle surface, Picture picture) {
             const DWORD got = pixels.Get(x, y);
             const DWORD wanted = picture(x, y);
             if (got == wanted || different++ > 0) continue;
-            failure << "at (" << x << ", " << y << ") got " << std::hex << std::setfill('0') << std::setw(8) << got
-                    << ", wanted " << std::setw(8) << wanted << std::dec;
+            // One message: manipulators end with it.
+            failure << (testing::Message() << "at (" << x << ", " << y << ") got " << std::hex << std::setfill('0')
+                                           << std::setw(8) << got << ", wanted " << std::setw(8) << wanted);
         }
     if (different == 0) return testing::AssertionSuccess();
     return failure << "; " << different << " of " << pixels.Width() * pixels.Height() << " pixels differ";

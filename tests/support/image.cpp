@@ -87,9 +87,11 @@ testing::AssertionResult SameBytes(const Image& got, const Image& wanted) {
     const auto x = static_cast<int>(offset % stride / (info.bmBitsPixel / 8));
     if (x >= info.bmWidth || y >= info.bmHeight)
         return testing::AssertionFailure() << "wrote behind row " << y << " of " << info.bmHeight;
-    return testing::AssertionFailure() << "at (" << x << ", " << y << ") of " << info.bmWidth << " x " << info.bmHeight
-                                       << " got " << std::hex << std::setfill('0') << std::setw(8) << got.At(x, y)
-                                       << ", wanted " << std::setw(8) << wanted.At(x, y);
+    // One message: manipulators end with it.
+    return testing::AssertionFailure() << (testing::Message()
+                                           << "at (" << x << ", " << y << ") of " << info.bmWidth << " x "
+                                           << info.bmHeight << " got " << std::hex << std::setfill('0') << std::setw(8)
+                                           << got.At(x, y) << ", wanted " << std::setw(8) << wanted.At(x, y));
 }
 
 }  // namespace zorvic
