@@ -1,0 +1,16 @@
+// The pages of the gallery, each in a file of its own.
+#pragma once
+
+#include "../picture.h"
+#include "../sheet.h"
+
+Sheet PicturesPage(const Pictures& pictures);
+Sheet FillsPage(const Pictures& pictures);
+Sheet DepthsPage(const Pictures& pictures);
+Sheet OperationsPage(const Pictures& pictures);
+Sheet ColorKeyPage(const Pictures& pictures);
+Sheet ClipPage(const Pictures& pictures);
+Sheet NearestPage(const Pictures& pictures);
+Sheet SlicesPage(const Pictures& pictures);
+Sheet CompositionPage(const Pictures& pictures);
+Sheet GdiPage(const Pictures& pictures);
