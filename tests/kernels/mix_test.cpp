@@ -93,6 +93,7 @@ TEST(Modulation, LiteralPixels) {
         {"bright source", 0xFFFF8040, 0xFFFFFFFF, 0x00604020, 0xFFFE7F3F},
         {"nothing", 0x80FFFFFF, 0x00000000, 0x12345678, 0x12345678},
         {"half", 0x80808080, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF},
+        {"almost opaque is no light", 0xFEFFFFFF, 0xFF808080, 0xFFFFFFFF, 0xFF818181},
         // Above their alpha: 129 * 255 >> 8 = 128; 255 + 128 keeps its low byte, without a carry into alpha.
         {"wraps", 0x01FF0000, 0x00800000, 0x00FF0000, 0x007F0000},
     };

@@ -52,23 +52,29 @@ TEST(NearestSample, PlacedDrawsStartInsideTheirExtent) {
 TEST(NearestSample, ExtentsBeyond32Bits) {
     constexpr std::int64_t wide = std::int64_t{1} << 32;
     struct {
-        int sourceWidth;
-        Placement placement;
-        std::uint32_t first;
+        int source;
+        std::int64_t position, extent;
+        std::uint32_t shown;
     } constexpr cases[] = {
-        {3, {wide - 4, wide - 1, wide, wide}, 0},                          // a step of 0
-        {32767, {(1 << 30) - 4, 0, 1 << 30, 1}, 16383},                    // 1.99 is a step of 1
-        {32767, {(1 << 29) - 4, wide - 1, 1 << 29, wide}, 24575},          // 3.99: 3 x 2^29 - 12
-        {60000, {3'000'000'000 - 4, 5, 3'000'000'000, wide}, 45776},       // 1.31: a step of 1
-        {60000, {wide / 4 - 4, wide / 4 - 1, wide / 4, wide / 4}, 49151},  // 3.66: 3 x 2^30 - 12
+        {3, wide - 1, wide, 0},                        // a step of 0
+        {32767, wide / 4 - 4, wide / 4, 16383},        // 1.99 is a step of 1
+        {32767, wide / 8 - 4, wide / 8, 24575},        // 3.99: (3 x 2^29 - 12) >> 16
+        {60000, 2'999'999'996, 3'000'000'000, 45776},  // 1.31
+        {60000, wide / 4 - 4, wide / 4, 49151},        // 3.66: (3 x 2^30 - 12) >> 16
     };
     for (const auto& c : cases) {
-        const Image source = Places(c.sourceWidth, 1);
+        const Image row = Places(c.source, 1), column = Places(1, c.source);
         for (const std::uint32_t filterMode : {0U, 1U, 4U, 5U}) {
-            Image image(4, 1);
-            EXPECT_EQ(SelectPlacedKernel(image.Info(), c.placement, source.Info(), 0, filterMode, 255), 1);
+            Image image(1, 1);
+            const auto at = [&](const Placement& placement, const Image& source) {
+                EXPECT_EQ(SelectPlacedKernel(image.Info(), placement, source.Info(), 0, filterMode, 255), 1);
+                return image.At(0, 0);
+            };
+            const std::uint32_t alongX = at({c.position, wide - 1, c.extent, wide}, row);
+            const std::uint32_t alongY = at({wide - 1, c.position, wide, c.extent}, column);
             if (filterMode == 0) {
-                EXPECT_EQ(image.At(0, 0), c.first) << "extent " << c.placement.width;
+                EXPECT_EQ(alongX, c.shown) << "extent " << c.extent;
+                EXPECT_EQ(alongY, c.shown << 16) << "extent " << c.extent;
             }
         }
     }
