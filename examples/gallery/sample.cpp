@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "gdi.h"
+
 namespace {
 
 // Straight colour and opacity, 0..1.
@@ -144,25 +146,6 @@ Bitmap Painted(HGBITMAP fresh, PaintAt paintAt) {
     return bitmap;
 }
 
-// Lettering straight into the bitmap's DIB section. GDI clears the alpha of what it touches.
-void Letter(HGBITMAP bitmap, const wchar_t* text, int height, RECT where, COLORREF color) {
-    HDC dc = CreateCompatibleDC(nullptr);
-    const HGDIOBJ oldBitmap = SelectObject(dc, GetBitmapHandle(bitmap));
-    LOGFONTW face{};
-    face.lfHeight = -height;
-    face.lfWeight = FW_BOLD;
-    face.lfQuality = ANTIALIASED_QUALITY;
-    lstrcpyW(face.lfFaceName, L"Segoe UI");
-    const HGDIOBJ oldFont = SelectObject(dc, CreateFontIndirectW(&face));
-    SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, color);
-    DrawTextW(dc, text, -1, &where, DT_RIGHT | DT_BOTTOM | DT_SINGLELINE);
-    GdiFlush();
-    DeleteObject(SelectObject(dc, oldFont));
-    SelectObject(dc, oldBitmap);
-    DeleteDC(dc);
-}
-
 // Signed distance to a rectangle with round corners around a middle; negative inside.
 double RoundRect(double x, double y, double halfWidth, double halfHeight, double radius) {
     const double u = std::abs(x) - halfWidth + radius;
@@ -180,8 +163,9 @@ Bitmap SampleLandscape(Daytime daytime) {
     const Scene& scene = daytime == Daytime::day ? day : night;
     Bitmap bitmap =
         Painted(CreateSystemBitmap(768, 512), [&](double x, double y) { return Landscape(scene, x / 512, y / 512); });
-    Letter(bitmap, L"Zorvic", 44, {0, 0, 748, 500}, RGB(255, 250, 235));
-    const Pixels pixels(bitmap);
+    Lettering(MemoryDc(bitmap), 44, FW_BOLD, RGB(255, 250, 235))
+        .Write(L"Zorvic", {0, 0, 748, 500}, DT_RIGHT | DT_BOTTOM);
+    const Pixels pixels(bitmap);  // GDI has cleared the alpha under the letters
     for (int y = 0; y < pixels.Height(); ++y)
         for (int x = 0; x < pixels.Width(); ++x) pixels.At(x, y) |= 0xFF000000;
     return bitmap;

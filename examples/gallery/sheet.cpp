@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "gdi.h"
+
 namespace {
 
 constexpr int pageWidth = 1200;
@@ -18,32 +20,6 @@ constexpr COLORREF ink = RGB(28, 32, 38);
 constexpr COLORREF paleInk = RGB(104, 112, 122);
 
 int TileWidth(int columns) { return (pageWidth - 2 * margin - (columns - 1) * gap) / columns; }
-
-// A font selected into a device context for the length of a scope.
-class Lettering {
-public:
-    Lettering(HDC target, int height, int weight, COLORREF color) : dc(target) {
-        LOGFONTW face{};
-        face.lfHeight = -height;
-        face.lfWeight = weight;
-        face.lfQuality = ANTIALIASED_QUALITY;
-        wcscpy(face.lfFaceName, L"Segoe UI");  // Wine takes what it has instead
-        previous = SelectObject(dc, CreateFontIndirectW(&face));
-        SetBkMode(dc, TRANSPARENT);
-        SetTextColor(dc, color);
-    }
-    ~Lettering() { DeleteObject(SelectObject(dc, previous)); }
-    Lettering(const Lettering&) = delete;
-    Lettering& operator=(const Lettering&) = delete;
-
-    void Write(const std::wstring& line, RECT where, UINT format = 0) const {
-        DrawTextW(dc, line.c_str(), -1, &where, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS | format);
-    }
-
-private:
-    HDC dc;
-    HGDIOBJ previous;
-};
 
 // Calls place(group, tile or null, rectangle) for every heading and tile; returns the height of the page.
 template <class Groups, class Place>
@@ -101,14 +77,14 @@ Canvas Sheet::Compose() const {
     });
 
     HDC dc = GetCanvasHandle(page);
-    Lettering(dc, 27, FW_BOLD, ink).Write(title, Box(margin, 20, pageWidth - 2 * margin, 36));
-    Lettering(dc, 14, FW_NORMAL, paleInk).Write(text, Box(margin, 58, pageWidth - 2 * margin, 22));
+    Lettering(dc, 27, FW_BOLD, ink).Write(title.c_str(), Box(margin, 20, pageWidth - 2 * margin, 36), 0);
+    Lettering(dc, 14, FW_NORMAL, paleInk).Write(text.c_str(), Box(margin, 58, pageWidth - 2 * margin, 22), 0);
     LayOut(groups, [&](const Group& group, const Drawn* tile, const RECT& where) {
         if (tile)
             Lettering(dc, 12, FW_NORMAL, ink)
-                .Write(tile->caption, Box(where.left, where.bottom + 5, Width(where), captionHeight - 6));
+                .Write(tile->caption.c_str(), Box(where.left, where.bottom + 5, Width(where), captionHeight - 6), 0);
         else
-            Lettering(dc, 15, FW_BOLD, ink).Write(group.heading, Inset(where, 0), DT_VCENTER);
+            Lettering(dc, 15, FW_BOLD, ink).Write(group.heading.c_str(), where, DT_VCENTER);
     });
     GdiFlush();
     // GDI has cleared the alpha under the letters.

@@ -1,4 +1,5 @@
 // Canvas with canvas: mixing, blending, scrolling, and modulation by a bitmap.
+#include "../gdi.h"
 #include "pages.h"
 
 namespace {
@@ -14,22 +15,8 @@ void Show(HGCANVAS canvas, HGBITMAP bitmap) { DrawBitmap(canvas, nullptr, bitmap
 // White letters on black, which DrawModulation takes for light.
 Bitmap Letters(SIZE size, const wchar_t* text) {
     Bitmap bitmap(CreateSystemBitmap(size.cx, size.cy));
-    HDC dc = CreateCompatibleDC(nullptr);
-    const HGDIOBJ previous = SelectObject(dc, GetBitmapHandle(bitmap));
-    LOGFONTW face{};
-    face.lfHeight = -size.cy / 3;
-    face.lfWeight = FW_BOLD;
-    face.lfQuality = ANTIALIASED_QUALITY;
-    lstrcpyW(face.lfFaceName, L"Segoe UI");
-    const HGDIOBJ font = SelectObject(dc, CreateFontIndirectW(&face));
-    SetBkColor(dc, 0);
-    SetTextColor(dc, RGB(255, 255, 255));
-    RECT rect = AreaOf(bitmap);
-    DrawTextW(dc, text, -1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-    GdiFlush();
-    DeleteObject(SelectObject(dc, font));
-    SelectObject(dc, previous);
-    DeleteDC(dc);
+    Lettering(MemoryDc(bitmap), size.cy / 3, FW_BOLD, RGB(255, 255, 255))
+        .Write(text, AreaOf(bitmap), DT_CENTER | DT_VCENTER);
     return bitmap;
 }
 

@@ -1,5 +1,6 @@
 // To GDI and back: canvases brought to a device context, GDI drawing on bitmaps and canvases, canvases on a host's
 // device context.
+#include "../gdi.h"
 #include "pages.h"
 
 namespace {
@@ -7,48 +8,15 @@ namespace {
 constexpr COLORREF green = RGB(40, 160, 96);
 constexpr COLORREF yellow = RGB(255, 214, 64);
 
-// A device context with a bitmap selected, as a host has them.
-class MemoryDc {
-public:
-    // Draws on the GDI side of a bitmap.
-    explicit MemoryDc(HGBITMAP bitmap) : MemoryDc(GetBitmapHandle(bitmap), false) {}
-    // A bitmap of the screen's format: no pixels to be reached from outside.
-    explicit MemoryDc(SIZE size) : MemoryDc(LikeScreen(size), true) {}
-    ~MemoryDc() {
-        const HGDIOBJ bitmap = SelectObject(dc, previous);
-        DeleteDC(dc);
-        if (owner) DeleteObject(bitmap);
-    }
-    MemoryDc(const MemoryDc&) = delete;
-    MemoryDc& operator=(const MemoryDc&) = delete;
-    operator HDC() const { return dc; }  // NOLINT(google-explicit-constructor)
-
-private:
-    MemoryDc(HBITMAP bitmap, bool ownsBitmap)
-        : dc(CreateCompatibleDC(nullptr)), previous(SelectObject(dc, bitmap)), owner(ownsBitmap) {}
-
-    static HBITMAP LikeScreen(SIZE size) {
-        HDC screen = GetDC(nullptr);
-        HBITMAP bitmap = CreateCompatibleBitmap(screen, size.cx, size.cy);
-        ReleaseDC(nullptr, screen);
-        return bitmap;
-    }
-
-    HDC dc;
-    HGDIOBJ previous;
-    bool owner;
-};
-
 void DrawShapes(HDC dc, const RECT& area) {
     const HGDIOBJ pen = SelectObject(dc, CreatePen(PS_SOLID, 5, green));
     const HGDIOBJ brush = SelectObject(dc, CreateSolidBrush(yellow));
-    Rectangle(dc, area.left + 16, area.top + 16, area.left + 110, area.bottom - 40);
-    Ellipse(dc, area.right - 120, area.top + 30, area.right - 16, area.bottom - 16);
+    const RECT box{16, 16, 116, area.bottom - 34};
+    Rectangle(dc, box.left, box.top, box.right, box.bottom);
+    Ellipse(dc, area.right - 120, 30, area.right - 16, area.bottom - 16);
     DeleteObject(SelectObject(dc, brush));
     DeleteObject(SelectObject(dc, pen));
-    const std::wstring text = L"drawn by GDI";
-    SetTextColor(dc, RGB(200, 30, 30));
-    TextOutW(dc, area.left + 24, area.bottom - 30, text.c_str(), static_cast<int>(text.size()));
+    Lettering(dc, 30, FW_BOLD, RGB(200, 30, 30)).Write(L"GDI", box, DT_CENTER | DT_VCENTER);
     GdiFlush();
 }
 
