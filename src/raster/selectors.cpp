@@ -11,6 +11,8 @@ template <class... Function>
 struct Overloaded : Function... {
     using Function::operator()...;
 };
+template <class... Function>
+Overloaded(Function...) -> Overloaded<Function...>;  // Clang deduces aggregates from version 17 on only
 
 // The scaled kernels of one operation, by filter.
 template <class Kernel>
