@@ -1,0 +1,188 @@
+// Effects on locked images: every effect at every depth against byte-wise formulas, the 3 x 3 blur, and runs.
+#include <algorithm>
+
+#include "effects/pixels/box_blur.h"
+#include "effects/pixels/colorize.h"
+#include "effects/pixels/runs.h"
+#include "effects/pixels/tone.h"
+#include "raster/lookup_tables.h"
+#include "support/image.h"
+
+namespace zorvic {
+namespace {
+
+struct Bgra {
+    std::uint32_t b, g, r, a;
+
+    explicit Bgra(std::uint32_t word) : b(word & 255), g(word >> 8 & 255), r(word >> 16 & 255), a(word >> 24) {}
+    Bgra(std::uint32_t blue, std::uint32_t green, std::uint32_t red, std::uint32_t alpha)
+        : b(blue), g(green), r(red), a(alpha) {}
+    std::uint32_t Word() const { return a % 256 << 24 | r % 256 << 16 | g % 256 << 8 | b % 256; }
+};
+
+constexpr HslAmounts amounts{-0.7F, 0.4F, -0.25F};
+
+struct EffectCase {
+    const char* name;
+    void (*run)(const BitmapLockInfo& image);
+    std::uint32_t (*model)(std::uint32_t pixel);  // 24-bit pixels come with alpha 255
+    bool knowsPalettes, knows24;
+    std::uint32_t from, to;  // a worked figure
+};
+
+// clang-format off
+const EffectCase effects[] = {
+    {"gray", GrayImage,
+     [](std::uint32_t p) { const Bgra c(p); const auto g = (c.b + 2 * c.g + c.r) / 4; return Bgra(g, g, g, c.a).Word(); },
+     true, true, 0x80FF0000, 0x803F3F3F},
+    {"invert", InvertImage,
+     [](std::uint32_t p) { const Bgra c(p); return Bgra(c.a - c.b, c.a - c.g, c.a - c.r, c.a).Word(); },
+     false, false, 0x00102030, 0x00F0E0D0},
+    {"premultiply", PremultiplyImage,
+     [](std::uint32_t p) { const Bgra c(p); const auto k = c.a + 1; return Bgra(c.b * k / 256, c.g * k / 256, c.r * k / 256, c.a).Word(); },
+     true, false, 0x80FFFFFF, 0x80808080},
+    {"alpha to gray", [](const BitmapLockInfo& i) { ShuffleImage(i, Shuffle::alphaToGray); },
+     [](std::uint32_t p) { return (p >> 24) * 0x01010101; },
+     false, false, 0x7F102030, 0x7F7F7F7F},
+    {"color to alpha", [](const BitmapLockInfo& i) { ShuffleImage(i, Shuffle::colorToAlpha); },
+     [](std::uint32_t p) { const Bgra c(p); return Bgra(c.b, c.g, c.r, std::max({c.b, c.g, c.r})).Word(); },
+     false, false, 0x00102030, 0x30102030},
+    {"another shuffle", [](const BitmapLockInfo& i) { ShuffleImage(i, static_cast<Shuffle>(2)); },
+     [](std::uint32_t p) { return p; },
+     false, false, 0x7F102030, 0x7F102030},
+    {"replace color", [](const BitmapLockInfo& i) { ReplaceColor(i, 0xFFFFFFFF, 0x12345678); },
+     [](std::uint32_t p) { return p == 0xFFFFFFFF ? 0x12345678 : p; },
+     true, true, 0xFEFFFFFF, 0xFEFFFFFF},
+    {"whiten", WhitenImage,
+     [](std::uint32_t p) { return p < 0x01000000 ? p : 0xFFFFFFFF; },
+     false, false, 0x01000000, 0xFFFFFFFF},
+    {"colorize", [](const BitmapLockInfo& i) { ColorizeImage(i, amounts); },
+     [](std::uint32_t p) { return ColorizeArgb(p, amounts); },
+     true, true, 0x80000000, 0x80000000},
+};
+// clang-format on
+
+TEST(Effects, ChangeEveryPixelOrPaletteEntryAndNothingElse) {
+    for (const EffectCase& effect : effects) {
+        EXPECT_EQ(effect.model(effect.from), effect.to) << effect.name;
+        Random random(1);
+        for (const int bits : {8, 16, 24, 32})
+            for (int width = 0; width <= 70; ++width) {
+                Image image(random, width, 1 + random.Below(4), bits, {random.Below(9), random.Below(2)});
+                Image wanted = image;
+                if (bits == 32 || (bits == 24 && effect.knows24))
+                    wanted.Fill([&](int x, int y) {
+                        return effect.model(bits == 32 ? image.At(x, y) : image.At(x, y) | 0xFF000000);
+                    });
+                for (DWORD& entry : wanted.Palette())
+                    if (effect.knowsPalettes) entry = effect.model(static_cast<std::uint32_t>(entry));
+                effect.run(image.Info());
+                ASSERT_TRUE(SameBytes(image, wanted)) << effect.name << ", " << bits << " bits";
+                ASSERT_EQ(image.Palette(), wanted.Palette()) << effect.name;
+            }
+    }
+}
+
+TEST(Effects, IgnoreAlphaOf24BitColors) {
+    Image image(1, 1, 24);
+    image.Set(0, 0, 0x00FF00);
+    ReplaceColor(image.Info(), 0x1200FF00, 0x34010203);
+    EXPECT_EQ(image.At(0, 0), 0x010203U);
+}
+
+TEST(Effects, LeaveTheGrayRampAndDescriptionsWithoutPixelsAlone) {
+    for (const EffectCase& effect : effects) {
+        const Image indices(4, 4, 8);
+        BitmapLockInfo image = indices.Info();
+        image.palette = const_cast<DWORD*>(GreyPalette.data());  // read-only: a write would fault
+        effect.run(image);
+        image.palette = nullptr;
+        effect.run(image);
+        for (const WORD bits : {WORD{24}, WORD{32}}) {
+            image.bmBits = nullptr;
+            image.bmBitsPixel = bits;
+            effect.run(image);
+        }
+    }
+}
+
+// Nine clamped reads per pixel.
+Image BlurredByNine(const Image& dst, const Image& src) {
+    Image blurred = dst;
+    const int right = src.Info().bmWidth - 1, bottom = src.Info().bmHeight - 1;
+    for (int y = 0; y <= bottom; ++y)
+        for (int x = 0; x <= right; ++x) {
+            Bgra sum(0);
+            for (int i = 0; i < 9; ++i) {
+                const Bgra c(src.At(std::clamp(x + i % 3 - 1, 0, right), std::clamp(y + i / 3 - 1, 0, bottom)));
+                sum = {sum.b + c.b, sum.g + c.g, sum.r + c.r, sum.a + c.a};
+            }
+            blurred.Set(std::min<int>(x, dst.Info().bmWidth - 1), std::min<int>(y, dst.Info().bmHeight - 1),
+                        Bgra(sum.b / 9, sum.g / 9, sum.r / 9, sum.a / 9).Word());
+        }
+    return blurred;
+}
+
+TEST(BoxBlur, IsTheTruncatedMeanOfNinePixels) {
+    Random random(1);
+    for (int width = 1; width <= 70; ++width) {
+        const int height = 1 + random.Below(5);
+        const Image src(random, width, height, 32, {random.Below(9), random.Below(2)});
+        for (const int columns : {width, 1 + random.Below(width), width + 3})
+            for (const int rows : {height, 1 + random.Below(height), height + 2}) {
+                Image dst(random, columns, rows, 32, {random.Below(9), random.Below(2)});
+                const Image wanted = BlurredByNine(dst, src);
+                BoxBlur(dst.Info(), src.Info());
+                ASSERT_TRUE(SameBytes(dst, wanted)) << "from " << width << " x " << height;
+            }
+        const Image itself = src, wanted = BlurredByNine(src, src);
+        BoxBlur(itself.Info(), itself.Info());
+        ASSERT_TRUE(SameBytes(itself, wanted)) << "into itself";
+    }
+}
+
+TEST(BoxBlur, HasWorkedFigures) {
+    Image dot(3, 3), blurred(3, 3);
+    for (const auto& [pixel, wanted] : {std::pair(0xFFFFFFFFU, 0x1C1C1C1CU), {0x08090A12U, 0x00010102U}}) {
+        dot.Fill([p = pixel](int x, int y) { return x == 1 && y == 1 ? p : 0; });
+        BoxBlur(blurred.Info(), dot.Info());
+        EXPECT_EQ(blurred.Pixels(), std::vector<std::uint32_t>(9, wanted));
+    }
+}
+
+TEST(BoxBlur, KnowsOnly32BitImages) {
+    Random random(1);
+    for (const int bits : {8, 16, 24})
+        for (const bool toOther : {false, true}) {
+            Image dst(random, 5, 3, toOther ? bits : 32);
+            const Image src(random, 5, 3, toOther ? 32 : bits), before = dst;
+            BoxBlur(dst.Info(), src.Info());
+            EXPECT_TRUE(SameBytes(dst, before)) << bits;
+        }
+}
+
+TEST(Runs, CoverWhatDiffersFromTheKey) {
+    Random random(1);
+    for (const int bits : {8, 24, 32})
+        for (int width = 0; width <= 70; ++width) {
+            Image image(random, width, 1, bits);
+            if (bits == 24) image.Fill([&](int, int) { return random.Below(2) ? 0x010203 : 0; });
+            const std::uint32_t key = bits == 24 ? 0xFF010203 : 0;
+            std::vector<bool> covered(static_cast<std::size_t>(width)), wanted;
+            for (int x = 0; x < width; ++x) {
+                const std::uint32_t pixel = image.At(x, 0);
+                wanted.push_back((bits == 8 ? image.Palette()[pixel] : bits == 24 ? pixel | 0xFF000000 : pixel) != key);
+            }
+            int end = -1;
+            for (auto run = NextRun(image.Info(), 0, 0, key); run.first < run.end;
+                 run = NextRun(image.Info(), 0, run.end, key)) {
+                ASSERT_GT(run.first, end) << "runs do not touch";
+                end = run.end;
+                std::fill(covered.begin() + run.first, covered.begin() + run.end, true);
+            }
+            ASSERT_EQ(covered, wanted) << bits << " bits";
+        }
+}
+
+}  // namespace
+}  // namespace zorvic
