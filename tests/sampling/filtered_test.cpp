@@ -173,8 +173,8 @@ double BicubicReference(const Image& source, double x, double y, int shift, std:
     double sum = 0;
     for (int row = m - 1; row <= m + 2; ++row)
         for (int column = n - 1; column <= n + 2; ++column)
-            sum += (source.At(std::clamp(column, 0, source.Info().bmWidth - 1),
-                              std::clamp(row, 0, source.Info().bmHeight - 1)) >>
+            sum += (source.At(std::clamp<int>(column, 0, source.Info().bmWidth - 1),
+                              std::clamp<int>(row, 0, source.Info().bmHeight - 1)) >>
                         shift &
                     0xFF) *
                    static_cast<double>(StretchWeight(mode, static_cast<float>(std::abs(x - column)))) *
