@@ -32,6 +32,16 @@ typedef struct BitmapLockInfo {
                             library's grey ramp, which is read-only. */
 } BitmapLockInfo;
 
+/** A colour without alpha: the low three bytes of a word 0xAARRGGBB. */
+typedef struct RGBTriple {
+    BYTE blue, green, red;
+} RGBTriple;
+
+/** The same in hue, saturation and lightness: the low three bytes of a word 0xAAHHSSLL, see ARGBtoAHSL. */
+typedef struct HSLTriple {
+    BYTE lightness, saturation, hue;
+} HSLTriple;
+
 /** How a texture is laid out in the rectangle it is drawn to. */
 typedef struct TextureMode {
     LONG layout;    /**< 1 nine-grid, 2 tile, 3 centre, 4 nine-grid with a one-colour centre, 5 top tile, 6 uniform;
@@ -60,6 +70,7 @@ typedef struct TextureDrawParams {
 static_assert(offsetof(BitmapLockInfo, bmBits) == offsetof(BITMAP, bmBits), "starts like a BITMAP");
 static_assert(offsetof(BitmapLockInfo, colorCount) == sizeof(BITMAP), "the palette follows the BITMAP");
 static_assert(sizeof(BitmapLockInfo) == sizeof(BITMAP) + 2 * sizeof(void*), "no hidden padding");
+static_assert(sizeof(RGBTriple) == 3 && sizeof(HSLTriple) == 3, "passed and returned by value");
 static_assert(sizeof(TextureMode) == 24, "stored and returned verbatim");
 static_assert(sizeof(TextureDrawParams) == 56 && offsetof(TextureDrawParams, scale) == 16, "no hidden padding");
 static_assert(offsetof(TextureDrawParams, cornerRadii) == 24 && offsetof(TextureDrawParams, rounded) == 48,

@@ -392,4 +392,103 @@ ZORVIC_API int ZORVIC_CALL FillSolidRectEx(HGCANVAS canvas, DWORD color, const R
 /** FillSolidRectEx with a colour that is premultiplied already. */
 ZORVIC_API int ZORVIC_CALL FillPreMulColorRectEx(HGCANVAS canvas, DWORD color, const RECT* rect, DWORD mode);
 
+/* ------------------------------------------------------------------------------------------------- single colours */
+
+/** Converts a colour to hue, saturation and lightness, in integers.
+ *  \param argb  0xAARRGGBB
+ *  \return 0xAAHHSSLL, each 0..255: hue goes round the circle (0 red, 85 green, 170 blue; 170 for greys), alpha stays */
+ZORVIC_API DWORD ZORVIC_CALL ARGBtoAHSL(DWORD argb);
+
+/** Converts it back, in single precision and truncated: a round trip may change a colour a little. */
+ZORVIC_API DWORD ZORVIC_CALL AHSLtoARGB(DWORD ahsl);
+
+/* The same without alpha. */
+ZORVIC_API HSLTriple ZORVIC_CALL RGBtoHSL(RGBTriple rgb);
+ZORVIC_API RGBTriple ZORVIC_CALL HSLtoRGB(HSLTriple hsl);
+
+/** Turns the hue and scales the saturation and lightness of a colour, by way of AHSL. Amounts are meant for -1..1 and
+ *  not checked; larger ones wrap modulo 256. Three amounts of 0 return the colour bit for bit; with any other, a colour
+ *  that was grey becomes very slightly coloured, because the saturation is kept at 1 or more.
+ *  \param hue         1 is half the circle
+ *  \param saturation  1 the strongest colour, -1 nearly grey
+ *  \param lightness   1 white, -1 black
+ *  \return the changed colour with its alpha */
+ZORVIC_API DWORD ZORVIC_CALL ARGBColorize(DWORD argb, float hue, float saturation, float lightness);
+
+/* The same for the other forms of a colour. */
+ZORVIC_API RGBTriple ZORVIC_CALL RGBColorize(RGBTriple rgb, float hue, float saturation, float lightness);
+ZORVIC_API DWORD ZORVIC_CALL AHSLColorize(DWORD ahsl, float hue, float saturation, float lightness);
+ZORVIC_API HSLTriple ZORVIC_CALL HSLColorize(HSLTriple hsl, float hue, float saturation, float lightness);
+
+/* ------------------------------------------------------------------------------------------------- effects
+ * Effects change a surface in place. Those that know 8 bits change the surface's own palette, never the grey ramp.
+ * A depth that an effect does not know stays as it is, and the result is 1 all the same. Where nothing else is said,
+ * the result is 1, or 0 for NULL and for a surface that cannot be locked. */
+
+/** Makes a surface grey: blue, green and red become (blue + 2 * green + red) >> 2. 8, 24 and 32 bits. */
+ZORVIC_API int ZORVIC_CALL GrayBitmap(HGBITMAP bitmap);
+
+/** GrayBitmap that tells the resource manager of the change. */
+ZORVIC_API int ZORVIC_CALL GrayTexture(HGTEXTURE texture);
+
+/** Inverts premultiplied colour within its alpha: a channel becomes alpha - channel, modulo 256. 32 bits. */
+ZORVIC_API int ZORVIC_CALL InvertBitmap(HGBITMAP bitmap);
+
+/** Premultiplies straight colour: a channel becomes (channel * (alpha + 1)) >> 8. 32 bits, and 8 with the fourth byte
+ *  of the palette's entries as alpha. */
+ZORVIC_API int ZORVIC_CALL NormalizeBitmap(HGBITMAP bitmap);
+
+/** NormalizeBitmap for an image that the caller has locked or describes. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL NormalizeBitmap2(BitmapLockInfo* image);
+
+/** What ShuffleBitmap moves between the channels. */
+enum {
+    ZORVIC_SHUFFLE_ALPHA_TO_GRAY = 1, /**< blue, green and red become the alpha */
+    ZORVIC_SHUFFLE_COLOR_TO_ALPHA = 6 /**< alpha becomes the largest of blue, green and red */
+};
+
+/** ShuffleBitmapEx on the whole surface. */
+ZORVIC_API int ZORVIC_CALL ShuffleBitmap(HGBITMAP bitmap, int mode);
+
+/** Moves values between the channels of an area. 32 bits.
+ *  \param area  surface pixels, not empty and inside the surface; NULL, all of it
+ *  \param mode  see ZORVIC_SHUFFLE_ALPHA_TO_GRAY; others change nothing
+ *  \return 1; 0 for NULL or an area that is not inside */
+ZORVIC_API int ZORVIC_CALL ShuffleBitmapEx(HGBITMAP bitmap, const RECT* area, int mode);
+
+/** Replaces one exact colour by another: all four bytes of a pixel or palette entry, the low three with 24 bits. */
+ZORVIC_API int ZORVIC_CALL TranslateTexture(HGTEXTURE texture, DWORD from, DWORD to);
+
+/** ARGBColorize of every pixel or palette entry as it is stored, and a word to the resource manager. 8, 24, 32 bits.
+ *  \return 1, also for NULL when the three amounts are 0; otherwise 0 for NULL and for what cannot be locked */
+ZORVIC_API int ZORVIC_CALL ColorizeTexture(HGTEXTURE texture, float hue, float saturation, float lightness);
+
+/** Blurs all of one 32-bit surface into another: each channel becomes the mean of 3 x 3 pixels, truncated, edge pixels
+ *  repeated. A larger destination keeps what lies outside the source's size; a smaller one shows the source's last
+ *  column and row in its own.
+ *  \param dst,src  may be the same bitmap
+ *  \return 1, whatever could be locked; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL BlurBitmap(HGBITMAP dst, HGBITMAP src);
+
+/** Turns a 32-bit surface into a soft white glow in the shape of what is not transparent. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL LightBitmap(HGBITMAP bitmap);
+ZORVIC_API int ZORVIC_CALL LightTexture(HGTEXTURE texture);
+
+/** Softens a 32-bit surface by four blurs, as for a shadow. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL DarkBitmap(HGBITMAP bitmap);
+
+/* The same functions for textures: each is the bitmap function of that name under another one. */
+ZORVIC_API int ZORVIC_CALL InvertTexture(HGTEXTURE texture);
+ZORVIC_API int ZORVIC_CALL NormalizeTexture(HGTEXTURE texture);
+ZORVIC_API int ZORVIC_CALL ShuffleTexture(HGTEXTURE texture, int mode);
+ZORVIC_API int ZORVIC_CALL ShuffleTextureEx(HGTEXTURE texture, const RECT* area, int mode);
+ZORVIC_API int ZORVIC_CALL BlurTexture(HGTEXTURE dst, HGTEXTURE src);
+
+/** Makes a GDI region of all pixels that are not 0x00000000, to shape a window or to clip by. While the top byte of the
+ *  operation word is 0 (ZORVIC_OP_COPY) alpha does not count, and the region is the whole area.
+ *  \param texture  8 (palette), 24 (always the whole area) or 32 bits; a bitmap will do
+ *  \param area     surface pixels, inside the surface; NULL, all of it. Its corner is the region's origin
+ *  \return a region that is the caller's to delete; NULL for NULL, an area that is not inside, or another depth */
+ZORVIC_API HRGN ZORVIC_CALL CreateTextureRgn(HGTEXTURE texture, const RECT* area);
+
 #endif

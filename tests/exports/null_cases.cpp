@@ -116,6 +116,39 @@ const NullCase cases[] = {
     {"FillSolidRect", [](With& o) { return Number(FillSolidRect(nullptr, 0x00FFFFFF, &o.rect)); }, 1},
     {"FillSolidRectEx", [](With& o) { return Number(FillSolidRectEx(nullptr, 0xFF000000, &o.rect, 0)); }, 0},
     {"FillPreMulColorRectEx", [](With& o) { return Number(FillPreMulColorRectEx(nullptr, 0xFF000000, &o.rect, 0)); }, 0},
+
+    // single colours, which have no handles
+    {"ARGBtoAHSL", [](With&) { return Number(ARGBtoAHSL(0x00FF0000)); }, 0x0000FF80},
+    {"AHSLtoARGB", [](With&) { return Number(AHSLtoARGB(0x00AA00FF)); }, 0x00FFFFFF},
+    {"RGBtoHSL", [](With&) { return Number(RGBtoHSL({0, 0, 0}).hue); }, 170},
+    {"HSLtoRGB", [](With&) { return Number(HSLtoRGB({255, 0, 0}).red); }, 255},
+    {"ARGBColorize", [](With&) { return Number(ARGBColorize(0x123456, 0, 0, 0)); }, 0x123456},
+    {"RGBColorize", [](With&) { return Number(RGBColorize({1, 2, 3}, 0, 0, 0).red); }, 3},
+    {"AHSLColorize", [](With&) { return Number(AHSLColorize(0x123456, 0, 0, 0)); }, 0x123456},
+    {"HSLColorize", [](With&) { return Number(HSLColorize({1, 2, 3}, 0, 0, 0).hue); }, 3},
+
+    // effects
+    {"GrayBitmap", [](With&) { return Number(GrayBitmap(nullptr)); }, 0},
+    {"GrayTexture", [](With&) { return Number(GrayTexture(nullptr)); }, 0},
+    {"InvertBitmap", [](With&) { return Number(InvertBitmap(nullptr)); }, 0},
+    {"InvertTexture", [](With&) { return Number(InvertTexture(nullptr)); }, 0},
+    {"NormalizeBitmap", [](With&) { return Number(NormalizeBitmap(nullptr)); }, 0},
+    {"NormalizeTexture", [](With&) { return Number(NormalizeTexture(nullptr)); }, 0},
+    {"NormalizeBitmap2", [](With&) { return Number(NormalizeBitmap2(nullptr)); }, 0},
+    {"ShuffleBitmap", [](With&) { return Number(ShuffleBitmap(nullptr, 1)); }, 0},
+    {"ShuffleTexture", [](With&) { return Number(ShuffleTexture(nullptr, 1)); }, 0},
+    {"ShuffleBitmapEx", [](With& o) { return Number(ShuffleBitmapEx(nullptr, &o.rect, 1)); }, 0},
+    {"ShuffleTextureEx", [](With& o) { return Number(ShuffleTextureEx(nullptr, &o.rect, 1)); }, 0},
+    {"TranslateTexture", [](With&) { return Number(TranslateTexture(nullptr, 1, 2)); }, 0},
+    {"ColorizeTexture", [](With&) { return Number(ColorizeTexture(nullptr, 0.5F, 0, 0)); }, 0},
+    {"ColorizeTexture", [](With&) { return Number(ColorizeTexture(nullptr, 0, 0, 0)); }, 1},
+    {"BlurBitmap", [](With& o) { return Number(BlurBitmap(nullptr, o.bitmap.get())); }, 0},
+    {"BlurBitmap", [](With& o) { return Number(BlurBitmap(o.bitmap.get(), nullptr)); }, 0},
+    {"BlurTexture", [](With& o) { return Number(BlurTexture(o.texture.get(), nullptr)); }, 0},
+    {"LightBitmap", [](With&) { return Number(LightBitmap(nullptr)); }, 0},
+    {"LightTexture", [](With&) { return Number(LightTexture(nullptr)); }, 0},
+    {"DarkBitmap", [](With&) { return Number(DarkBitmap(nullptr)); }, 0},
+    {"CreateTextureRgn", [](With& o) { return Number(CreateTextureRgn(nullptr, &o.rect)); }, 0},
 };
 // clang-format on
 

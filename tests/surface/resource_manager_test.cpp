@@ -1,34 +1,9 @@
 // The host's resource manager: which calls it hears, and what it may still ask about a bitmap that goes.
-#include <functional>
-#include <string>
-
-#include "support/host.h"
+#include "support/recorder.h"
 
 namespace {
 
 using namespace host;
-
-class Recorder final : public ResourceManager {
-public:
-    Recorder() { EXPECT_EQ(RegisterD2DResoureMgr(this), this); }
-    ~Recorder() { EXPECT_EQ(RegisterD2DResoureMgr(nullptr), nullptr); }
-    Recorder(const Recorder&) = delete;
-    Recorder& operator=(const Recorder&) = delete;
-
-    void OnRelease(HGBITMAP bitmap) override {
-        log += "release;";
-        last = bitmap;
-        if (whileReleasing) whileReleasing();
-    }
-    void OnChange(HGBITMAP bitmap, DWORD value) override {
-        log += "change " + std::to_string(value) + ";";
-        last = bitmap;
-    }
-
-    std::string log;
-    HGBITMAP last = nullptr;
-    std::function<void()> whileReleasing;
-};
 
 TEST(ResourceManager, HearsOfChangesAndReleases) {
     OwnedBitmap bitmap = MakeBitmap(4, 4);

@@ -1,0 +1,58 @@
+// Single colours through the DLL: packing, and how the records of three bytes travel.
+#include "support/host.h"
+
+namespace {
+
+// Three bytes come back through the address that a host passes before all arguments, and are passed in the low bytes of
+// a stack word whose last byte means nothing: so do all compilers for 32-bit Windows that hosts are made with.
+using Convert = void*(__cdecl*)(BYTE* result, DWORD color);
+using Adjust = void*(__cdecl*)(BYTE* result, DWORD color, float hue, float saturation, float lightness);
+
+template <class Function>
+Function Find(const char* name) {
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"zorvic32.dll"), name)));
+}
+
+// The result as a word; the byte behind it must survive.
+template <class Function, class... Args>
+DWORD Call(const char* name, DWORD color, Args... args) {
+    BYTE result[4] = {0, 0, 0, 0x5A};
+    EXPECT_EQ(Find<Function>(name)(result, 0xEE000000 | color, args...), result) << name;
+    EXPECT_EQ(result[3], 0x5A) << name;
+    return static_cast<DWORD>(result[2] << 16 | result[1] << 8 | result[0]);
+}
+
+TEST(Colors, TriplesAreTheLowBytesOfWords) {
+    for (int i = 0; i < 1000; ++i) {
+        const DWORD color = host::Pattern{}(i, 0) & 0xFFFFFF;
+        EXPECT_EQ(Call<Convert>("RGBtoHSL", color), ARGBtoAHSL(color));
+        EXPECT_EQ(Call<Convert>("HSLtoRGB", color), AHSLtoARGB(color));
+        EXPECT_EQ(Call<Adjust>("RGBColorize", color, 0.3F, -0.2F, 0.1F), ARGBColorize(color, 0.3F, -0.2F, 0.1F));
+        EXPECT_EQ(Call<Adjust>("HSLColorize", color, 0.3F, -0.2F, 0.1F), AHSLColorize(color, 0.3F, -0.2F, 0.1F));
+    }
+    const HSLTriple hsl = RGBtoHSL(RGBTriple{10, 0, 255});  // blue, green, red
+    EXPECT_EQ(hsl.hue, 254);
+    EXPECT_EQ(hsl.saturation, 255);
+    EXPECT_EQ(hsl.lightness, 128);
+    const RGBTriple red = HSLtoRGB(HSLTriple{127, 255, 0});
+    EXPECT_EQ(red.red, 254);
+    EXPECT_EQ(red.green + red.blue, 0);
+    const RGBTriple same = RGBColorize(RGBTriple{1, 2, 3}, 0, 0, 0);
+    EXPECT_TRUE(same.blue == 1 && same.green == 2 && same.red == 3);
+}
+
+TEST(Colors, KeepAlpha) {
+    EXPECT_EQ(ARGBtoAHSL(0x12FF0000), 0x1200FF80U);
+    EXPECT_EQ(AHSLtoARGB(0x1200FF7F), 0x12FE0000U);
+    EXPECT_EQ(ARGBColorize(0x12FF0000, 0, 0, -1), 0x12000000U);
+    EXPECT_EQ(AHSLColorize(0x1200FF80, 1, 0, 0), 0x1280FF80U);
+}
+
+TEST(Colors, ColorizeASurfaceAsOneByOne) {
+    const host::OwnedBitmap bitmap = host::MakeBitmap(300, 40, host::Pattern{});
+    ColorizeTexture(reinterpret_cast<HGTEXTURE>(bitmap.get()), -0.4F, 0.3F, 0.1F);
+    EXPECT_TRUE(
+        host::Shows(bitmap.get(), [](int x, int y) { return ARGBColorize(host::Pattern{}(x, y), -0.4F, 0.3F, 0.1F); }));
+}
+
+}  // namespace
