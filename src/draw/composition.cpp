@@ -100,7 +100,7 @@ int BlendCanvas(Canvas& dst, const RECT& dstRect, Canvas& src, const RECT& srcRe
 int CanvasScroll(Canvas& canvas, int dx, int dy) {
     if (dx != 0 || !canvas.Surface()) return 0;
     const SIZE size = canvas.Surface()->Size();
-    const CanvasLock pixels(canvas, {0, 0, size.cx, size.cy});
+    const CanvasLock pixels(canvas, {0, 0, size.cx, size.cy});  // logical on purpose: fails when an origin has moved
     if (!pixels) return 0;
 
     const std::int64_t distance = std::abs(std::int64_t{dy});

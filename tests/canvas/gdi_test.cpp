@@ -63,19 +63,6 @@ TEST(CanvasGdi, DrawsOnTheSurface) {
     EXPECT_LT(red, 1000);
 }
 
-TEST(CanvasGdi, FillsWhatAHostsBitmapShows) {
-    for (const Target& target : targets) {
-        SCOPED_TRACE(target.name);
-        const GdiBitmap bitmap = target.make(13, 9);
-        bitmap.Fill(Pattern{});
-        const OwnedCanvas canvas(CreateCanvasFromDC(bitmap.Dc()));
-        const RECT rect{2, 1, 11, 4};
-        EXPECT_EQ(FillPreMulColorRectEx(canvas.get(), 0xFF80A0C0, &rect, ZORVIC_OP_COPY), 1);
-        EXPECT_TRUE(
-            Keeps(target, bitmap, [&](int x, int y) { return Inside(rect, x, y) ? 0xFF80A0C0 : Pattern{}(x, y); }));
-    }
-}
-
 // Every row order has its own mistake: each area of rows, the middle one of 9 among them.
 TEST(CanvasGdi, DrawsOnTheRightRows) {
     const OwnedBitmap source = MakeBitmap(13, 9, Pattern{2});

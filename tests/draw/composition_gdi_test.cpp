@@ -44,22 +44,24 @@ Snapshot Expected(Transfer transfer) {
     return Snapshot(target.Shown().get());
 }
 
+struct Case {
+    const char* name;
+    DWORD filter;
+    BYTE alpha;
+    Snapshot expected;
+};
+
 }  // namespace
 
 TEST(BlendCanvas, OntoADeviceContextIsGdisWork) {
-    const struct {
-        const char* name;
-        DWORD filter;
-        BYTE alpha;
-        Snapshot expected;
-    } cases[] = {
+    const Case cases[] = {
         {"copies", 0, 255, Expected([](HDC t, HDC s) { Stretch(t, s); })},
         {"copies whatever the opacity", 0, 128, Expected([](HDC t, HDC s) { Stretch(t, s); })},
         {"by its alpha", ZORVIC_OP_SOURCE_OVER, 255, Expected([](HDC t, HDC s) { Blend(t, s, 255, AC_SRC_ALPHA); })},
         {"by alpha and opacity", ZORVIC_OP_SOURCE_OVER, 100,
          Expected([](HDC t, HDC s) { Blend(t, s, 100, AC_SRC_ALPHA); })},
     };
-    for (const auto& c : cases) {
+    for (const Case& c : cases) {
         const OwnedCanvas src = MakeCanvas(c.filter);
         const Target target;
         const OwnedCanvas dst(CreateCanvasFromDC(target.Dc()));
@@ -87,19 +89,14 @@ TEST(BlendCanvas, FromADeviceContextIsGdisWorkToo) {
 }
 
 TEST(GdiTransCanvas, TakesItsThreeRoutes) {
-    const struct {
-        const char* name;
-        DWORD filter;
-        BYTE alpha;
-        Snapshot expected;
-    } cases[] = {
+    const Case cases[] = {
         {"copies", 0, 255, Expected([](HDC t, HDC s) { Stretch(t, s); })},
         {"by opacity", 0, 100, Expected([](HDC t, HDC s) { Blend(t, s, 100, 0); })},
         {"by its alpha", ZORVIC_OP_SOURCE_OVER, 255, Expected([](HDC t, HDC s) { Blend(t, s, 255, AC_SRC_ALPHA); })},
         {"by both", ZORVIC_OP_SOURCE_OVER, 100, Expected([](HDC t, HDC s) { Blend(t, s, 100, AC_SRC_ALPHA); })},
         {"only source-over means alpha", 0x03000000, 255, Expected([](HDC t, HDC s) { Stretch(t, s); })},
     };
-    for (const auto& c : cases) {
+    for (const Case& c : cases) {
         const OwnedCanvas canvas = MakeCanvas(c.filter);
         const Target target;
         EXPECT_EQ(GdiTransCanvas(target.Dc(), &to, canvas.get(), &from, c.alpha), 1) << c.name;

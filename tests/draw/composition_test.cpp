@@ -206,6 +206,10 @@ TEST(CanvasScroll, RefusesWhatItCannotDo) {
     for (const int dy : {9, -9, 10, INT_MAX, INT_MIN, -INT_MAX}) EXPECT_EQ(CanvasScroll(canvas.get(), 0, dy), 1) << dy;
     EXPECT_TRUE(Shows(canvas.get(), PremultipliedPattern{1})) << "a surface's height or more moves nothing";
 
+    SetWindowOrg(canvas.get(), 0, 1, nullptr);
+    EXPECT_EQ(CanvasScroll(canvas.get(), 0, 1), 0) << "moved origins take the surface out of reach";
+    EXPECT_TRUE(Shows(canvas.get(), PremultipliedPattern{1}));
+
     const GdiBitmap dib = GdiBitmap::Dib(7, 9);
     const OwnedCanvas onDc(CreateCanvasFromDC(dib.Dc()));
     EXPECT_EQ(CanvasScroll(onDc.get(), 0, 1), 0);

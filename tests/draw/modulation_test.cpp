@@ -1,41 +1,9 @@
-// Bitmaps drawn in a colour: both formulas by hand and by a slow model, every depth, clips, origins, lenient results.
+// Bitmaps drawn in a colour: both formulas by a slow model, every depth, clips, origins, lenient results.
 #include <climits>
 
 #include "support/slow_pixels.h"
 
 using namespace host;
-
-namespace {
-
-struct Case {
-    const char* name;
-    DWORD src, dst, color, drawn;
-};
-constexpr Case cases[] = {
-    // Opaque: luma 0xFF gives alpha (0x100 x 0xFF) >> 8 = 0xFF; colour (0 x 0xFF >> 8) + (c x 0xFF >> 8).
-    {"white shows the colour", 0xFFFFFFFF, 0x00808080, 0xFF804020, 0xFF7F3F1F},
-    {"white dims by black", 0xFFFFFFFF, 0xFF808080, 0xFF000000, 0xFF000000},
-    {"black leaves the colour", 0xFF000000, 0x40808080, 0xFFFFFFFF, 0x407F7F7F},
-    // (0 + 2 x 0x80 + 0) >> 2 = 0x40; (0x41 x 0xFF) >> 8 = 0x40; green (0x7F x 0xFF >> 8) + (0x80 x 0x80 >> 8).
-    {"half green", 0x00008000, 0x00FFFFFF, 0xFFFF80FF, 0x40FEBEFE},
-    // Not opaque: m = ((s + 1) x c) >> 8, then over.
-    {"nothing changes nothing", 0x00000000, 0x12345678, 0xFEFFFFFF, 0x12345678},
-    {"white is the colour over", 0xFFFFFFFF, 0xFFFFFFFF, 0x80402010, 0xFFBF9F8F},
-    {"multiplied", 0xFF7F3F00, 0x00000000, 0x80808080, 0x80402000},
-    {"transparent colour", 0xFFFFFFFF, 0x12345678, 0x00000000, 0x12345678},
-};
-
-}  // namespace
-
-TEST(DrawModulation, DoesToAPixelWhatTheFormulaSays) {
-    for (const Case& c : cases) {
-        const OwnedBitmap bitmap = MakeBitmap(1, 1, [&](int, int) { return c.src; });
-        const OwnedCanvas canvas(CreateCanvas(1, 1, nullptr));
-        Fill(canvas.get(), [&](int, int) { return c.dst; });
-        EXPECT_EQ(DrawModulation(canvas.get(), 0, 0, bitmap.get(), nullptr, c.color), 1) << c.name;
-        EXPECT_TRUE(Shows(canvas.get(), [&](int, int) { return c.drawn; })) << c.name;
-    }
-}
 
 TEST(DrawModulation, MatchesTheModelFromEveryDepthWhereverItLies) {
     const RECT clip{3, 2, 35, 27};
