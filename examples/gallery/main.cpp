@@ -29,6 +29,8 @@ constexpr Page pages[]{
     {L"05-color-key.png", ColorKeyPage},      {L"06-clip-and-origins.png", ClipPage},
     {L"07-nearest.png", NearestPage},         {L"08-slices.png", SlicesPage},
     {L"09-composition.png", CompositionPage}, {L"10-gdi.png", GdiPage},
+    {L"11-effects.png", EffectsPage},         {L"12-colorize.png", ColorizePage},
+    {L"13-glow-and-shadow.png", GlowPage},    {L"14-regions.png", RegionsPage},
 };
 
 void DrawPages(const std::wstring& folder, const std::vector<std::wstring>& files) {

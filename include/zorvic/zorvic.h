@@ -460,6 +460,8 @@ ZORVIC_API int ZORVIC_CALL ShuffleBitmapEx(HGBITMAP bitmap, const RECT* area, in
 ZORVIC_API int ZORVIC_CALL TranslateTexture(HGTEXTURE texture, DWORD from, DWORD to);
 
 /** ARGBColorize of every pixel or palette entry as it is stored, and a word to the resource manager. 8, 24, 32 bits.
+ *  Premultiplied colour may become brighter than its alpha: where alpha counts, colorize straight colour and then call
+ *  NormalizeBitmap.
  *  \return 1, also for NULL when the three amounts are 0; otherwise 0 for NULL and for what cannot be locked */
 ZORVIC_API int ZORVIC_CALL ColorizeTexture(HGTEXTURE texture, float hue, float saturation, float lightness);
 

@@ -5,7 +5,6 @@
 #include "effects/pixels/colorize.h"
 #include "effects/pixels/tone.h"
 #include "effects/region.h"
-#include "surface/texture.h"
 #include "zorvic/zorvic.h"
 
 using zorvic::ApplyEffect;
@@ -13,12 +12,19 @@ using zorvic::ApplyEffectAndTell;
 using zorvic::FromHandle;
 using zorvic::SoftEffect;
 
+namespace {
+
+// Whatever takes a texture here takes a bitmap as well.
+zorvic::Bitmap& SurfaceOf(HGTEXTURE texture) { return *FromHandle(reinterpret_cast<HGBITMAP>(texture)); }
+
+}  // namespace
+
 int ZORVIC_CALL GrayBitmap(HGBITMAP bitmap) {
     return bitmap ? ApplyEffect(*FromHandle(bitmap), nullptr, zorvic::GrayImage) : 0;
 }
 
 int ZORVIC_CALL GrayTexture(HGTEXTURE texture) {
-    return texture ? ApplyEffectAndTell(*FromHandle(texture), zorvic::GrayImage) : 0;
+    return texture ? ApplyEffectAndTell(SurfaceOf(texture), zorvic::GrayImage) : 0;
 }
 
 int ZORVIC_CALL InvertBitmap(HGBITMAP bitmap) {
@@ -43,13 +49,13 @@ int ZORVIC_CALL ShuffleBitmapEx(HGBITMAP bitmap, const RECT* area, int mode) {
 }
 
 int ZORVIC_CALL TranslateTexture(HGTEXTURE texture, DWORD from, DWORD to) {
-    return texture ? ApplyEffect(*FromHandle(texture), nullptr, zorvic::ReplaceColor, from, to) : 0;
+    return texture ? ApplyEffect(SurfaceOf(texture), nullptr, zorvic::ReplaceColor, from, to) : 0;
 }
 
 int ZORVIC_CALL ColorizeTexture(HGTEXTURE texture, float hue, float saturation, float lightness) {
     const zorvic::HslAmounts amounts{hue, saturation, lightness};
     if (amounts.IsNothing()) return 1;  // even without a texture
-    return texture ? ApplyEffectAndTell(*FromHandle(texture), zorvic::ColorizeImage, amounts) : 0;
+    return texture ? ApplyEffectAndTell(SurfaceOf(texture), zorvic::ColorizeImage, amounts) : 0;
 }
 
 int ZORVIC_CALL BlurBitmap(HGBITMAP dst, HGBITMAP src) {
@@ -66,7 +72,7 @@ int ZORVIC_CALL LightBitmap(HGBITMAP bitmap) {
 
 int ZORVIC_CALL LightTexture(HGTEXTURE texture) {
     if (!texture) return 0;
-    zorvic::Soften(*FromHandle(texture), SoftEffect::light);
+    zorvic::Soften(SurfaceOf(texture), SoftEffect::light);
     return 1;
 }
 
@@ -77,5 +83,5 @@ int ZORVIC_CALL DarkBitmap(HGBITMAP bitmap) {
 }
 
 HRGN ZORVIC_CALL CreateTextureRgn(HGTEXTURE texture, const RECT* area) {
-    return texture ? zorvic::MakeRegion(*FromHandle(texture), area) : nullptr;
+    return texture ? zorvic::MakeRegion(SurfaceOf(texture), area) : nullptr;
 }

@@ -14,3 +14,7 @@ Sheet NearestPage(const Pictures& pictures);
 Sheet SlicesPage(const Pictures& pictures);
 Sheet CompositionPage(const Pictures& pictures);
 Sheet GdiPage(const Pictures& pictures);
+Sheet EffectsPage(const Pictures& pictures);
+Sheet ColorizePage(const Pictures& pictures);
+Sheet GlowPage(const Pictures& pictures);
+Sheet RegionsPage(const Pictures& pictures);
