@@ -1,5 +1,6 @@
-// hello [PICTURE]: the smallest host with a window, the program to copy from. A picture (or soft discs, when there is none)
-// is kept in a bitmap, drawn on a canvas over a checkerboard by its alpha, and brought to the window in WM_PAINT.
+// hello [--shaped] [PICTURE]: the smallest host with a window, the program to copy from. A picture (or soft discs, when
+// there is none) is kept in a bitmap, drawn on a canvas over a checkerboard by its alpha, and brought to the window in
+// WM_PAINT. With --shaped the window has the shape of the picture and is dragged by it; Alt+F4 closes it.
 #include <windows.h>
 
 #include <shellapi.h>
@@ -14,6 +15,7 @@ namespace {
 
 HGBITMAP picture;  // 32-bit premultiplied pixels, made once
 HGCANVAS canvas;   // what the window shows, as large as its client area
+bool shaped;       // the window is as large as the picture and ends with its pixels
 
 // Reads a picture file through WIC; NULL when that fails.
 HGBITMAP ReadPicture(const wchar_t* file) {
@@ -84,6 +86,7 @@ void Draw(int width, int height) {
     const RECT middle{static_cast<int>(width - size.cx * scale) / 2, static_cast<int>(height - size.cy * scale) / 2,
                       static_cast<int>(width + size.cx * scale) / 2, static_cast<int>(height + size.cy * scale) / 2};
     DrawBitmap(canvas, &middle, picture, ZORVIC_FILTER_NEAREST);
+    if (shaped) return;
 
     // A translucent band, and text by GDI. GDI may spoil the alpha: a canvas that is not SOURCE_OVER does without it.
     RECT band{0, height - 36, width, height};
@@ -111,6 +114,8 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
             EndPaint(window, &paint);
             return 0;
         }
+        case WM_NCHITTEST:
+            return shaped ? HTCAPTION : DefWindowProcW(window, message, wParam, lParam);
         case WM_DESTROY:
             PostQuitMessage(0);
             return 0;
@@ -125,7 +130,9 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int show) {
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     int count = 0;
     wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
-    picture = count > 1 ? ReadPicture(arguments[1]) : MakePicture();
+    shaped = count > 1 && lstrcmpW(arguments[1], L"--shaped") == 0;
+    const int file = shaped ? 2 : 1;
+    picture = count > file ? ReadPicture(arguments[file]) : MakePicture();
     LocalFree(arguments);
     if (!picture) return MessageBoxW(nullptr, L"The picture cannot be read.", L"hello", MB_ICONERROR), 1;
     SetBitmapFilter(picture, ZORVIC_OP_SOURCE_OVER);  // drawn by its alpha
@@ -136,8 +143,12 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int show) {
     windowClass.hCursor = LoadCursor(nullptr, IDC_ARROW);
     windowClass.lpszClassName = L"hello";
     RegisterClassW(&windowClass);
-    HWND window = CreateWindowW(L"hello", L"Hello, Zorvic", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT, 640, 480,
-                                nullptr, nullptr, instance, nullptr);
+    SIZE size{640, 480};
+    if (shaped) GetBitmapSize(picture, &size);
+    HWND window = CreateWindowW(L"hello", L"Hello, Zorvic", shaped ? WS_POPUP : WS_OVERLAPPEDWINDOW, CW_USEDEFAULT,
+                                CW_USEDEFAULT, size.cx, size.cy, nullptr, nullptr, instance, nullptr);
+    // The region becomes the window's.
+    if (shaped) SetWindowRgn(window, CreateTextureRgn(reinterpret_cast<HGTEXTURE>(picture), nullptr), FALSE);
     ShowWindow(window, show);
 
     MSG message{};
