@@ -195,6 +195,51 @@ ZORVIC_API int ZORVIC_CALL GetTextureCurSlice(HGTEXTURE texture, RECT* slice);
 /** \return the number of slices; -1 for NULL */
 ZORVIC_API int ZORVIC_CALL GetTextureSliceCount(HGTEXTURE texture);
 
+/* ------------------------------------------------------------------------------ bitmaps and textures from others */
+
+/** How a picture is turned or mirrored. W and H are the new width and height; the pixel at (x, y) of the source goes to
+ *  the place behind each name. */
+enum {
+    ZORVIC_TRANSFORM_ROTATE_90 = 1,       /**< clockwise: (W - 1 - y, x) */
+    ZORVIC_TRANSFORM_ROTATE_180 = 2,      /**< (W - 1 - x, H - 1 - y) */
+    ZORVIC_TRANSFORM_ROTATE_270 = 3,      /**< clockwise: (y, H - 1 - x) */
+    ZORVIC_TRANSFORM_FLIP_VERTICAL = 4,   /**< top to bottom: (x, H - 1 - y) */
+    ZORVIC_TRANSFORM_FLIP_HORIZONTAL = 5, /**< left to right: (W - 1 - x, y) */
+    ZORVIC_TRANSFORM_TRANSPOSE = 6,       /**< about the diagonal through the top left corner: (y, x) */
+    ZORVIC_TRANSFORM_ANTI_TRANSPOSE = 7   /**< about the other diagonal: (W - 1 - y, H - 1 - x) */
+};
+
+/** A new 32-bit bitmap that shows the source in another size, with its operation word; in a DIB section if the source
+ *  is in one. At the source's own size the pixels are copied exactly.
+ *  \param source        8, 24 or 32 bits per pixel; only read
+ *  \param width,height  pixels, 1..32767 each
+ *  \param mode          sampling, see ZORVIC_FILTER_NEAREST
+ *  \return a bitmap to be deleted with DeleteBitmap; NULL for NULL, a bad size, or when memory is short. A source
+ *          whose pixels cannot be locked gives undefined ones */
+ZORVIC_API HGBITMAP ZORVIC_CALL ResizeBitmap(HGBITMAP source, int width, int height, int mode);
+
+/** ResizeBitmap for textures: the new one is in heap memory, without slices and with a plain stretch as its layout. */
+ZORVIC_API HGTEXTURE ZORVIC_CALL ResizeTexture(HGTEXTURE source, int width, int height, int mode);
+
+/** A new bitmap with the source's pixels turned or mirrored, and its depth, palette and operation word; in a DIB
+ *  section if the source is in one.
+ *  \param source  8, 24 or 32 bits per pixel (pixels of other depths are not moved: the new ones are undefined)
+ *  \param op      see ZORVIC_TRANSFORM_ROTATE_90
+ *  \return a bitmap to be deleted with DeleteBitmap; NULL for NULL, another op, or when memory is short */
+ZORVIC_API HGBITMAP ZORVIC_CALL TransformBitmap(HGBITMAP source, int op);
+
+/** TransformBitmap for textures: the new one is in heap memory, without slices and with a plain stretch as its layout.
+ */
+ZORVIC_API HGTEXTURE ZORVIC_CALL TransformTexture(HGTEXTURE source, int op);
+
+/** TransformBitmap by a quarter, half or three quarter turn; NULL for any other op. */
+ZORVIC_API HGBITMAP ZORVIC_CALL RotateBitmap(HGBITMAP source, int op);
+ZORVIC_API HGTEXTURE ZORVIC_CALL RotateTexture(HGTEXTURE source, int op);
+
+/** TransformBitmap top to bottom or left to right; NULL for any other op. */
+ZORVIC_API HGBITMAP ZORVIC_CALL FlipBitmap(HGBITMAP source, int op);
+ZORVIC_API HGTEXTURE ZORVIC_CALL FlipTexture(HGTEXTURE source, int op);
+
 /* ------------------------------------------------------------------------------------------------------ canvases */
 
 /** Creates a canvas on a 32-bit surface in heap memory, all transparent. GetCanvasHandle later turns it into a DIB

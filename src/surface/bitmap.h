@@ -63,6 +63,8 @@ std::unique_ptr<Surface> MakeSurface(int width, int height, int bitsPixel, int c
 
 // Copies pixels, palette and operation word; see CopyBitmap in the public header.
 void CopyPixels(Bitmap& dst, const RECT* dstArea, const Bitmap& src, const RECT* srcArea);
+// Copies the palette of one locked surface to another with as many entries; the grey ramp stays as it is.
+void CopyPalette(const BitmapLockInfo& dst, const BitmapLockInfo& src);
 
 // The host's process-wide object, told of pixels that go or change; may be null.
 extern ResourceManager* RegisteredManager;

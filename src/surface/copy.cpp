@@ -23,14 +23,14 @@ void CopyRows(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
     }
 }
 
+}  // namespace
+
 void CopyPalette(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
     if (dst.palette == src.palette) return;
     // The grey ramp is every such surface's: a surface that shows it goes on doing so.
     if (dst.palette == GreyPalette.data()) return;
     std::copy_n(src.palette, src.colorCount, dst.palette);
 }
-
-}  // namespace
 
 void CopyPixels(Bitmap& dst, const RECT* dstArea, const Bitmap& src, const RECT* srcArea) {
     const SurfaceLock from(src, srcArea);

@@ -56,6 +56,16 @@ const NullCase cases[] = {
     {"GetTextureCurSlice", [](With& o) { return Number(GetTextureCurSlice(nullptr, &o.rect)); }, 0},
     {"GetTextureSliceCount", [](With&) { return Number(GetTextureSliceCount(nullptr)); }, -1},
 
+    // bitmaps and textures from others
+    {"ResizeBitmap", [](With&) { return Number(ResizeBitmap(nullptr, 4, 4, 0)); }, 0},
+    {"ResizeTexture", [](With&) { return Number(ResizeTexture(nullptr, 4, 4, 0)); }, 0},
+    {"TransformBitmap", [](With&) { return Number(TransformBitmap(nullptr, 1)); }, 0},
+    {"TransformTexture", [](With&) { return Number(TransformTexture(nullptr, 1)); }, 0},
+    {"RotateBitmap", [](With&) { return Number(RotateBitmap(nullptr, 1)); }, 0},
+    {"RotateTexture", [](With&) { return Number(RotateTexture(nullptr, 1)); }, 0},
+    {"FlipBitmap", [](With&) { return Number(FlipBitmap(nullptr, 4)); }, 0},
+    {"FlipTexture", [](With&) { return Number(FlipTexture(nullptr, 4)); }, 0},
+
     // canvases
     {"CreateCanvas", [](With&) { return Number(CreateCanvas(0, 4, nullptr)); }, 0},
     {"CreateSystemCanvas", [](With&) { return Number(CreateSystemCanvas(4, 0, nullptr)); }, 0},
