@@ -41,13 +41,6 @@ TEST(Colors, TriplesAreTheLowBytesOfWords) {
     EXPECT_TRUE(same.blue == 1 && same.green == 2 && same.red == 3);
 }
 
-TEST(Colors, KeepAlpha) {
-    EXPECT_EQ(ARGBtoAHSL(0x12FF0000), 0x1200FF80U);
-    EXPECT_EQ(AHSLtoARGB(0x1200FF7F), 0x12FE0000U);
-    EXPECT_EQ(ARGBColorize(0x12FF0000, 0, 0, -1), 0x12000000U);
-    EXPECT_EQ(AHSLColorize(0x1200FF80, 1, 0, 0), 0x1280FF80U);
-}
-
 TEST(Colors, ColorizeASurfaceAsOneByOne) {
     const host::OwnedBitmap bitmap = host::MakeBitmap(300, 40, host::Pattern{});
     ColorizeTexture(reinterpret_cast<HGTEXTURE>(bitmap.get()), -0.4F, 0.3F, 0.1F);

@@ -87,7 +87,7 @@ void BoxBlur(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
     for (int y = 0; y < rows; ++y) {
         const std::uint8_t* row = blur.Row(y == rows - 1 ? src.bmHeight - 1 : y);
         std::memcpy(RowOf(dst, y), row, static_cast<std::size_t>(columns) * 4);
-        std::memcpy(RowOf(dst, y) + (columns - 1) * 4, row + (src.bmWidth - 1) * 4, 4);
+        std::memcpy(RowOf(dst, y) + std::ptrdiff_t{4} * (columns - 1), row + std::ptrdiff_t{4} * (src.bmWidth - 1), 4);
     }
 }
 

@@ -23,7 +23,8 @@ inline int Quotient(int n, int d) {
 
 // Hue covers the circle with 0..255: 0 red, 85 green, 170 blue; greys have saturation 0 and hue 170.
 inline std::uint32_t ToAhsl(std::uint32_t argb) {
-    const int red = argb >> 16 & 0xFF, green = argb >> 8 & 0xFF, blue = argb & 0xFF;
+    const auto channel = [=](int shift) { return static_cast<int>(argb >> shift & 0xFF); };
+    const int red = channel(16), green = channel(8), blue = channel(0);
     const int larger = red > green ? red : green, smaller = red > green ? green : red;
     const int max = larger > blue ? larger : blue, min = smaller < blue ? smaller : blue;
     const int sum = max + min, delta = max - min;
@@ -36,7 +37,7 @@ inline std::uint32_t ToAhsl(std::uint32_t argb) {
     const bool nearRed = max == red, nearGreen = max == green;
     const int base = nearRed ? 0 : nearGreen ? 85 : 170;
     const int less = nearRed ? blue : nearGreen ? red : green, more = nearRed ? green : nearGreen ? blue : red;
-    const auto distance = [=](int channel) { return Quotient((max - channel) * 42 + delta / 2, delta); };
+    const auto distance = [=](int other) { return Quotient((max - other) * 42 + delta / 2, delta); };
     const int hue = base + distance(less) - distance(more);
     // Left of red it wraps at 256, not at 255.
     return (argb & 0xFF000000) | (static_cast<std::uint32_t>(hue) & 0xFF) << 16 | saturation << 8 | lightness;

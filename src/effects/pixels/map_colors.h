@@ -33,11 +33,11 @@ void MapBlock(const BitmapLockInfo& image, std::byte* pixels, const Op& op) {
 // The last pixels go through the same block, padded.
 template <SourceDepth depth, class Op>
 void MapRow(const BitmapLockInfo& image, std::byte* pixels, int n, const Op& op) {
-    constexpr std::size_t blockBytes = blockPixels * BytesPerPixel(depth);
+    constexpr std::size_t pixelBytes = BytesPerPixel(depth), blockBytes = blockPixels * pixelBytes;
     for (; n >= blockPixels; n -= blockPixels, pixels += blockBytes) MapBlock<depth>(image, pixels, op);
     if (n <= 0) return;
     std::byte padded[blockBytes] = {};
-    const auto bytes = static_cast<std::size_t>(n * BytesPerPixel(depth));
+    const std::size_t bytes = static_cast<std::size_t>(n) * pixelBytes;
     std::memcpy(padded, pixels, bytes);
     MapBlock<depth>(image, padded, op);
     std::memcpy(pixels, padded, bytes);

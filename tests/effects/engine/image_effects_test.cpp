@@ -83,13 +83,6 @@ TEST(Effects, ChangeEveryPixelOrPaletteEntryAndNothingElse) {
     }
 }
 
-TEST(Effects, IgnoreAlphaOf24BitColors) {
-    Image image(1, 1, 24);
-    image.Set(0, 0, 0x00FF00);
-    ReplaceColor(image.Info(), 0x1200FF00, 0x34010203);
-    EXPECT_EQ(image.At(0, 0), 0x010203U);
-}
-
 TEST(Effects, LeaveTheGrayRampAndDescriptionsWithoutPixelsAlone) {
     for (const EffectCase& effect : effects) {
         const Image indices(4, 4, 8);
