@@ -127,6 +127,13 @@ const Cycle cycles[] = {
          return canvas && sources.Draw(canvas.get());
      },
      20000},  // a round makes six DIB sections with a device context each
+    {"effects and a region",
+     [](const Sources& sources) {
+         const HGTEXTURE texture = sources.texture.get();
+         SetTextureFilter(texture, ZORVIC_OP_SOURCE_OVER);
+         const HRGN region = CreateTextureRgn(texture, nullptr);
+         return BlurTexture(texture, texture) && LightTexture(texture) && DeleteObject(region);
+     }},
     {"refused creations",
      [](const Sources&) {
          return !CreateMemBitmap(0, 1) && !CreateSystemBitmap(1, 40000) && !CreateCanvas(0, 0, nullptr) &&
