@@ -1,0 +1,300 @@
+// Arguments that no sensible caller passes: nothing crashes, hangs, leaves the clip or writes outside the pixels.
+#include <chrono>
+#include <cmath>
+#include <functional>
+#include <limits>
+
+#include "drawing.h"
+
+using namespace vek_test;
+
+namespace {
+
+constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
+constexpr float infinite = std::numeric_limits<float>::infinity();
+
+class Stopwatch {
+public:
+    double Seconds() const { return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(); }
+
+private:
+    std::chrono::steady_clock::time_point start = std::chrono::steady_clock::now();
+};
+
+// Every call that takes floats, with its floats from an array.
+struct FloatCall {
+    int floats;
+    std::function<int(VekCanvas, VekPath, const float*)> call;
+};
+const FloatCall floatCalls[] = {
+    {2, [](VekCanvas c, VekPath, const float* f) { return vekCanvasDrawPoint(c, f[0], f[1]); }},
+    {4, [](VekCanvas c, VekPath, const float* f) { return vekCanvasDrawLine(c, f[0], f[1], f[2], f[3]); }},
+    {4, [](VekCanvas c, VekPath, const float* f) { return vekCanvasDrawRectangle(c, f[0], f[1], f[2], f[3]); }},
+    {2,
+     [](VekCanvas c, VekPath, const float* f) {
+         const RECT rect{3, 4, 50, 60};
+         return vekCanvasDrawRoundRect(c, &rect, f[0], f[1]);
+     }},
+    {3, [](VekCanvas c, VekPath, const float* f) { return vekCanvasDrawCircle(c, f[0], f[1], f[2]); }},
+    {4, [](VekCanvas c, VekPath, const float* f) { return vekCanvasDrawEllipse(c, f[0], f[1], f[2], f[3]); }},
+    {2,
+     [](VekCanvas c, VekPath, const float* f) {
+         static Pixels picture(20, 20, 0xFF00FF00);
+         return vekCanvasDrawBitmap(c, picture.Wrap().get(), f[0], f[1]);
+     }},
+    {2,
+     [](VekCanvas c, VekPath, const float* f) {
+         vekCanvasSave(c);
+         const int done = vekCanvasTranslate(c, f[0], f[1]);
+         vekCanvasDrawCircle(c, 30, 30, 20);
+         vekCanvasRestore(c);
+         return done;
+     }},
+    {1,
+     [](VekCanvas c, VekPath, const float* f) {
+         const int done = vekCanvasSetStrokeWidth(c, std::abs(f[0]));
+         vekCanvasDrawLine(c, 10, 10, 50, 50);
+         return done;
+     }},
+    {2, [](VekCanvas, VekPath p, const float* f) { return vekPathMoveTo(p, f[0], f[1]); }},
+    {2, [](VekCanvas, VekPath p, const float* f) { return vekPathLineTo(p, f[0], f[1]); }},
+    {5, [](VekCanvas, VekPath p, const float* f) { return vekPathArcTo(p, f[0], f[1], f[2], f[3], f[4]); }},
+    {6,
+     [](VekCanvas, VekPath p, const float* f) { return vekPathBezierCurveTo(p, f[0], f[1], f[2], f[3], f[4], f[5]); }},
+    {4, [](VekCanvas, VekPath p, const float* f) { return vekPathQuadraticCurveTo(p, f[0], f[1], f[2], f[3]); }},
+    {5, [](VekCanvas, VekPath p, const float* f) { return vekPathAddArc(p, f[0], f[1], f[2], f[3], f[4], 0); }},
+    {5, [](VekCanvas, VekPath p, const float* f) { return vekPathAddArc(p, f[0], f[1], f[2], f[3], f[4], 1); }},
+    {4, [](VekCanvas, VekPath p, const float* f) { return vekPathAddRectangle(p, f[0], f[1], f[2], f[3]); }},
+    {3, [](VekCanvas, VekPath p, const float* f) { return vekPathAddCircle(p, f[0], f[1], f[2]); }},
+    {4, [](VekCanvas, VekPath p, const float* f) { return vekPathAddEllipse(p, f[0], f[1], f[2], f[3]); }},
+    {4,
+     [](VekCanvas c, VekPath, const float* f) {
+         const OwnedGradient gradient(vekGradientCreateLinear(f[0], f[1], f[2], f[3]));
+         vekGradientAddColorStop(gradient.get(), 0.25F, 0xFF00FF00);
+         vekGradientAddColorStop(gradient.get(), 1, 0x100000FF);
+         vekCanvasSetGradient(c, gradient.get());
+         vekCanvasDrawCircle(c, 30, 30, 20);
+         return gradient ? 1 : 0;
+     }},
+    {6,
+     [](VekCanvas c, VekPath, const float* f) {
+         const OwnedGradient gradient(vekGradientCreateRadial(f[0], f[1], f[2], f[3], f[4], f[5]));
+         vekGradientAddColorStop(gradient.get(), 0.25F, 0xFF00FF00);
+         vekGradientAddColorStop(gradient.get(), 1, 0x100000FF);
+         vekCanvasSetGradient(c, gradient.get());
+         vekCanvasDrawCircle(c, 30, 30, 20);
+         return gradient ? 1 : 0;
+     }},
+};
+
+// A random style that leaves nothing out.
+void SetRandomStyle(VekCanvas canvas, std::mt19937& random) {
+    vekCanvasSetDrawStyle(canvas, static_cast<int>(random() % 3));
+    vekCanvasSetColor(canvas, random() | 0x20000000);
+    vekCanvasSetSmooth(canvas, static_cast<int>(random() % 4));
+    vekCanvasSetBlendMode(canvas, static_cast<int>(random() % 27));
+    vekCanvasSetBlendValue(canvas, random() % 2 ? 255 : static_cast<int>(random() % 256));
+    vekCanvasSetStrokeCap(canvas, static_cast<int>(random() % 3));
+    vekCanvasSetStrokeJoin(canvas, static_cast<int>(random() % 3));
+    vekCanvasSetStrokeWidth(canvas, static_cast<float>(random() % 300) / 10);
+    vekCanvasSetDashStyle(canvas, static_cast<int>(random() % 6));
+}
+
+}  // namespace
+
+TEST(Abuse, NumbersThatAreNotFiniteAreRefused) {
+    for (std::size_t i = 0; i < std::size(floatCalls); ++i)
+        for (int bad = 0; bad < floatCalls[i].floats; ++bad)
+            for (const float number : {notANumber, infinite, -infinite}) {
+                Drawing drawing(64, 64);
+                const OwnedPath path = MakePath();
+                float floats[6] = {10, 10, 30, 40, 20, 25};
+                floats[bad] = number;
+                vekCanvasSetBlendValue(drawing, 0);  // what these calls draw beside is not the question
+                EXPECT_EQ(floatCalls[i].call(drawing, path.get(), floats), 0) << "call " << i << ", float " << bad;
+                VekBounds bounds{};
+                vekPathGetBounds(path.get(), &bounds);
+                EXPECT_EQ(bounds.right, 0);
+            }
+    const OwnedGradient gradient(vekGradientCreateLinear(0, 0, 1, 1));
+    EXPECT_EQ(vekGradientAddColorStop(gradient.get(), notANumber, 0), 0);
+}
+
+TEST(Abuse, ExtremeNumbersNeitherHangNorLeaveTheClip) {
+    constexpr float numbers[] = {0,     1e-40F, 0.3F,  -0.3F,  30,   -30,   255,   256.5F, 32767,  -32769,  65536, 1e5F,
+                                 -1e6F, 8e6F,   -9e6F, 1.7e7F, 2e9F, -3e9F, 1e18F, 1e30F,  -1e30F, 3.4e38F, -3e38F};
+    std::mt19937 random(1);
+    Drawing drawing(64, 64);
+    const RECT clip{5, 6, 60, 59};
+    vekCanvasClipRect(drawing, &clip);
+    OwnedPath path = MakePath();
+    for (int round = 0; round < 6000; ++round) {
+        if (round % 40 == 0) FillWithNoise(drawing, static_cast<unsigned>(round));
+        const Pixels before = drawing;
+        SetRandomStyle(drawing, random);
+        float floats[6];
+        for (float& f : floats) f = numbers[random() % std::size(numbers)];
+        const auto call = random() % std::size(floatCalls);
+        const Stopwatch watch;
+        // A width of 0 is the only number that is refused here.
+        EXPECT_TRUE(floatCalls[call].call(drawing, path.get(), floats) == 1 || floats[0] == 0) << call;
+        if (round % 8 == 0) {
+            EXPECT_EQ(vekCanvasDrawPath(drawing, path.get()), 1);
+            path = MakePath();
+        }
+        ASSERT_LT(watch.Seconds(), 5) << "round " << round << ", call " << call;
+        ASSERT_TRUE(IsPremultiplied(drawing)) << "round " << round << ", call " << call;
+        for (int y = 0; y < 64; ++y)
+            for (int x = 0; x < 64; ++x)
+                if (x < 5 || x >= 60 || y < 6 || y >= 59) {
+                    ASSERT_EQ(drawing.At(x, y), before.At(x, y)) << "round " << round << ", call " << call;
+                }
+    }
+    // The canvas is as alive as ever.
+    FillWithNoise(drawing, 1);
+    vekCanvasSetBlendMode(drawing, VEK_BLEND_SOURCE);
+    vekCanvasSetBlendValue(drawing, 255);
+    vekCanvasSetColor(drawing, 0xFF010203);
+    vekCanvasSetDrawStyle(drawing, VEK_DRAW_FILL);
+    vekCanvasDrawCircle(drawing, 32, 32, 10);
+    EXPECT_EQ(drawing.At(32, 32), 0xFF010203);
+}
+
+TEST(Abuse, TenThousandShapesStayInsideClipAndMemory) {
+    constexpr int size = 70, stride = 80, rows = size + 20;
+    std::vector<Pixel> memory(stride * rows, 0xFF7F7F7F);
+    const OwnedBitmap bitmap(vekBitmapCreateFromData(memory.data() + stride * 10 + 5, size, size, stride * 4));
+    const Owned<VekCanvas> canvas(vekCanvasCreate());
+    vekCanvasSetBitmap(canvas.get(), bitmap.get());
+    std::mt19937 random(2);
+    const auto number = [&] { return static_cast<float>(static_cast<int>(random() % 4000) - 1500) / 25; };
+    const auto pixel = [&] { return static_cast<LONG>(random() % 90) - 10; };
+    Pixels picture(15, 12);
+    FillWithNoise(picture, 3);
+    const OwnedBitmap small = picture.Wrap();
+    const OwnedGradient gradient(vekGradientCreateRadial(30, 30, 2, 40, 45, 40));
+    vekGradientAddColorStop(gradient.get(), 0, 0xFFFF8000);
+    vekGradientAddColorStop(gradient.get(), 1, 0x200080FF);
+    vekCanvasSetGradient(canvas.get(), gradient.get());
+
+    for (int round = 0; round < 10000; ++round) {
+        const std::vector<Pixel> before = memory;
+        SetRandomStyle(canvas.get(), random);
+        vekCanvasSave(canvas.get());
+        const RECT clip{pixel(), pixel(), pixel(), pixel()};
+        vekCanvasClipRect(canvas.get(), &clip);
+        vekCanvasTranslate(canvas.get(), number() / 4, number() / 4);
+        const bool layer = round % 50 == 0;
+        if (layer) vekCanvasSaveLayer(canvas.get(), nullptr, 200);
+        const OwnedPath path = MakePath();
+        vekPathMoveTo(path.get(), number(), number());
+        vekPathBezierCurveTo(path.get(), number(), number(), number(), number(), number(), number());
+        vekPathArcTo(path.get(), number(), number(), number(), number(), std::abs(number()));
+        const RECT rect{pixel(), pixel(), pixel(), pixel()};
+        switch (random() % 9) {
+            case 0:
+                vekCanvasDrawPoint(canvas.get(), number(), number());
+                break;
+            case 1:
+                vekCanvasDrawLine(canvas.get(), number(), number(), number(), number());
+                break;
+            case 2:
+                vekCanvasDrawRectangle(canvas.get(), number(), number(), number(), number());
+                break;
+            case 3:
+                vekCanvasDrawRoundRect(canvas.get(), &rect, number(), number());
+                break;
+            case 4:
+                vekCanvasDrawCircle(canvas.get(), number(), number(), number());
+                break;
+            case 5:
+                vekCanvasDrawEllipse(canvas.get(), number(), number(), number(), number());
+                break;
+            case 6:
+                vekCanvasDrawColor(canvas.get(), random(), &rect);
+                break;
+            case 7:
+                vekCanvasDrawBitmap(canvas.get(), small.get(), number(), number());
+                break;
+            default:
+                vekCanvasDrawPath(canvas.get(), path.get());
+                break;
+        }
+        if (layer) vekCanvasRestore(canvas.get());
+        vekCanvasRestore(canvas.get());
+        for (int i = 0; i < stride * rows; ++i) {
+            const int x = i % stride - 5, y = i / stride - 10;
+            const bool inside = x >= std::max(clip.left, 0L) && x < std::min<LONG>(clip.right, size) &&
+                                y >= std::max(clip.top, 0L) && y < std::min<LONG>(clip.bottom, size);
+            if (!inside) {
+                ASSERT_EQ(memory[static_cast<std::size_t>(i)], before[static_cast<std::size_t>(i)])
+                    << "round " << round << " at (" << x << ", " << y << ")";
+            }
+        }
+    }
+}
+
+TEST(Abuse, LargePathsTakeBoundedTime) {
+    std::mt19937 random(4);
+    const OwnedPath path = MakePath();
+    for (int i = 0; i < 100000; ++i)
+        vekPathLineTo(path.get(), static_cast<float>(random() % 64000) / 100 - 20,
+                      static_cast<float>(random() % 64000) / 100 - 20);
+    const struct {
+        const char* name;
+        int style;
+        float width;
+        float dash;
+        double area;
+    } cases[] = {{"fill", VEK_DRAW_FILL, 1, 0, 0.9},
+                 {"stroke", VEK_DRAW_STROKE, 1, 0, 0.9},
+                 {"endless stroke", VEK_DRAW_STROKE, 1e30F, 0, 1},
+                 {"dashes", VEK_DRAW_STROKE, 1, 5, 0.45}};
+    for (const auto& c : cases) {
+        Drawing drawing(600, 600);
+        vekCanvasSetDrawStyle(drawing, c.style);
+        vekCanvasSetStrokeWidth(drawing, c.width);
+        vekCanvasSetStrokeJoin(drawing, VEK_JOIN_ROUND);
+        vekCanvasSetStrokeCap(drawing, VEK_CAP_ROUND);
+        if (c.dash > 0) vekCanvasSetDashPattern(drawing, &c.dash, 1);
+        const Stopwatch watch;
+        EXPECT_EQ(vekCanvasDrawPath(drawing, path.get()), 1) << c.name;
+        EXPECT_LT(watch.Seconds(), 30) << c.name;
+        EXPECT_GE(drawing.Area(), 600 * 600 * c.area) << c.name;
+    }
+}
+
+#ifdef __i386__
+namespace {
+
+// Calls with the stack that many bytes below a 16-byte boundary.
+int CallShifted(int (*function)(VekCanvas, VekPath), VekCanvas canvas, VekPath path, int shift) {
+    const void* arguments[] = {canvas, path};
+    auto result = reinterpret_cast<int>(function);
+    __asm__ volatile(
+        "movl %%esp, %%ebx\n\tandl $-16, %%esp\n\tsubl %%edi, %%esp\n\t"
+        "pushl 4(%%esi)\n\tpushl (%%esi)\n\tcall *%%eax\n\tmovl %%ebx, %%esp"
+        : "+a"(result)
+        : "S"(arguments), "D"(shift)
+        : "ebx", "ecx", "edx", "memory", "cc");
+    return result;
+}
+
+}  // namespace
+
+// Hosts that are compiled with other compilers call with a stack aligned to 4 bytes only.
+TEST(Abuse, CallsWorkOnAMisalignedStack) {
+    Drawing drawing;
+    const OwnedGradient gradient(vekGradientCreateLinear(0, 0, 100, 0));
+    vekGradientAddColorStop(gradient.get(), 0, 0xFFFF0000);
+    vekCanvasSetGradient(drawing, gradient.get());
+    vekCanvasSetDrawStyle(drawing, VEK_DRAW_GRADIENT);
+    const OwnedPath path = MakePath();
+    vekPathAddCircle(path.get(), 50, 50, 40);
+    for (int shift = 0; shift < 16; shift += 4)
+        for (int mode = 0; mode < 27; ++mode) {
+            vekCanvasSetBlendMode(drawing, mode);
+            EXPECT_EQ(CallShifted(&vekCanvasDrawPath, drawing, path.get(), shift), 1) << shift << ", " << mode;
+        }
+}
+#endif

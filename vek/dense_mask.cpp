@@ -1,0 +1,218 @@
+// Winding numbers by counting: an edge adds its direction to the first sample right of it in every row of samples; the
+// sums along the rows are the winding numbers. A stroke is a heap of convex pieces with one direction.
+#include "dense_mask.h"
+
+#include <array>
+#include <numbers>
+#include <span>
+
+#include "flatten.h"
+
+namespace zorvic::vek {
+
+namespace {
+
+constexpr int samples = 4;  // per pixel and axis
+// Rows times edges that Cairo draws in some tenths of a second.
+constexpr double mostEdgeRows = 2e6;
+constexpr int mostCounters = 1 << 22;
+
+// Some rows of the picture, as counters per sample.
+class Band {
+public:
+    explicit Band(const Rect& rows)
+        : area(rows), width(rows.Width() * samples + 1), counters(Index(0, rows.Height() * samples)) {}
+
+    void CoverAll() { covered = true; }
+    const Rect& Area() const { return area; }
+
+    void AddEdge(Point a, Point b) {
+        if (covered) return;
+        const int direction = a.y < b.y ? 1 : -1;
+        if (direction < 0) std::swap(a, b);
+        const int first = Sample(a.y - area.top, area.Height());
+        const int last = Sample(b.y - area.top, area.Height());
+        if (first == last) return;
+        const double slope = (b.x - a.x) / (b.y - a.y);
+        for (int row = first; row < last; ++row) {
+            const double x = a.x + slope * ((row + 0.5) / samples + area.top - a.y);
+            counters[Index(Sample(x - area.left, area.Width()), row)] += direction;
+        }
+    }
+
+    void WriteTo(Mask& mask) const {
+        for (int y = 0; y < area.Height() * samples; ++y) {
+            std::uint8_t* out = &mask.bytes[static_cast<std::size_t>(area.top - mask.area.top + y / samples) *
+                                            static_cast<std::size_t>(mask.stride)];
+            int winding = 0;
+            for (int x = 0; x < area.Width() * samples; ++x) {
+                winding += counters[Index(x, y)];
+                if (winding != 0 || covered) ++out[x / samples];
+            }
+        }
+    }
+
+private:
+    // The first sample at or after a position, which is between 0 and a number of pixels.
+    static int Sample(double position, int pixels) {
+        return static_cast<int>(std::ceil(std::clamp(position, 0.0, static_cast<double>(pixels)) * samples - 0.5));
+    }
+    std::size_t Index(int x, int y) const {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
+    }
+
+    Rect area;
+    int width;
+    std::vector<int> counters;
+    bool covered = false;
+};
+
+// The pieces of the stroke along one figure.
+class StrokePieces {
+public:
+    StrokePieces(Band& target, const StrokeForm& stroke) : band(target), form(stroke), half(stroke.width / 2) {}
+
+    void AddFigure(const std::vector<Point>& points, bool closed) {
+        std::vector<Point> ways;  // unit vectors along the segments that have a length
+        std::vector<Point> ends;
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            const Point next = i + 1 < points.size() ? points[i + 1] : points.front();
+            const double length = Distance(points[i], next);
+            if (length == 0 || (i + 1 == points.size() && !closed)) continue;
+            ways.push_back((next - points[i]) * (1 / length));
+            AddSegment(points[i], next, ways.back());
+            if (ways.size() > 1) AddJoin(points[i], ways[ways.size() - 2], ways.back());
+        }
+        if (ways.empty()) return;
+        if (closed) return AddJoin(points.front(), ways.back(), ways.front());
+        AddCap(points.front(), ways.front() * -1);
+        AddCap(points.back(), ways.back());
+    }
+
+private:
+    void AddConvex(std::span<const Point> corners) {
+        double twiceArea = 0;
+        for (std::size_t i = 2; i < corners.size(); ++i) {
+            const Point a = corners[i - 1] - corners[0], b = corners[i] - corners[0];
+            twiceArea += a.x * b.y - a.y * b.x;
+        }
+        if (half > band.Area().Width() && Contains(corners, twiceArea)) return band.CoverAll();
+        for (std::size_t i = 0; i < corners.size(); ++i) {
+            const Point a = corners[i], b = corners[(i + 1) % corners.size()];
+            if (twiceArea > 0) {
+                band.AddEdge(a, b);
+            } else {
+                band.AddEdge(b, a);
+            }
+        }
+    }
+
+    // Whether all of the area is inside a piece: to the same side of all its edges.
+    bool Contains(std::span<const Point> corners, double side) const {
+        const Box box = BoxOf(band.Area());
+        for (std::size_t i = 0; i < corners.size(); ++i) {
+            const Point a = corners[i], edge = corners[(i + 1) % corners.size()] - a;
+            for (const Point p : {Point{box.left, box.top}, Point{box.right, box.top}, Point{box.left, box.bottom},
+                                  Point{box.right, box.bottom}})
+                if ((edge.x * (p.y - a.y) - edge.y * (p.x - a.x)) * side <= 0) return false;
+        }
+        return true;
+    }
+
+    Point Side(Point way) const { return Point{-way.y, way.x} * half; }
+
+    void AddSegment(Point a, Point b, Point way) {
+        const Point side = Side(way);
+        AddConvex(std::array{a + side, b + side, b - side, a - side});
+    }
+
+    void AddDisk(Point center) {
+        // A tenth of a pixel from the circle.
+        const int corners = static_cast<int>(std::clamp(8 * std::sqrt(half), 8.0, 100.0));
+        std::vector<Point> circle;
+        for (int i = 0; i < corners; ++i) {
+            const double angle = 2 * std::numbers::pi * i / corners;
+            circle.push_back(center + Point{std::cos(angle), std::sin(angle)} * half);
+        }
+        AddConvex(circle);
+    }
+
+    void AddJoin(Point at, Point in, Point out) {
+        if (form.join == Join::round) return AddDisk(at);
+        const double cross = in.x * out.y - in.y * out.x, dot = in.x * out.x + in.y * out.y;
+        const double outer = cross > 0 ? -1 : 1;
+        const Point a = Side(in) * outer, b = Side(out) * outer;
+        if (form.join == Join::miter && 2 <= form.miterLimit * form.miterLimit * (1 + dot)) {
+            AddConvex(std::array{at, at + a, at + (a + b) * (1 / (1 + dot)), at + b});
+        } else {
+            AddConvex(std::array{at, at + a, at + b});
+        }
+    }
+
+    void AddCap(Point at, Point way) {
+        if (form.cap == Cap::round) AddDisk(at);
+        if (form.cap == Cap::square) AddSegment(at, at + way * half, way);
+    }
+
+    Band& band;
+    const StrokeForm& form;
+    double half;
+};
+
+void AddEdges(Band& band, const Path& path, const Flatness& flatness, const StrokeForm& stroke) {
+    StrokePieces pieces(band, stroke);
+    Flatten(path, flatness, [&](const std::vector<Point>& points, bool closed) {
+        if (stroke.width > 0) return pieces.AddFigure(points, closed);
+        for (std::size_t i = 0; i < points.size(); ++i) band.AddEdge(points[i], points[(i + 1) % points.size()]);
+    });
+}
+
+// Rows of the area that the edges of the outline cross, all edges together.
+struct EdgeCounter {
+    double top, bottom, added;
+    Point start, current;
+    double rows = 0;
+
+    void MoveTo(Point p) { start = current = p; }
+    void LineTo(Point p) {
+        const double low = std::max(std::min(current.y, p.y) - added, top);
+        const double high = std::min(std::max(current.y, p.y) + added, bottom);
+        rows += std::max(high - low, 0.0);
+        current = p;
+    }
+    void CurveTo(Point c1, Point c2, Point p) {
+        LineTo(c1);
+        LineTo(c2);
+        LineTo(p);
+    }
+    void Close() { LineTo(start); }
+};
+
+}  // namespace
+
+bool IsDense(const Path& path, Point offset, const Rect& area, const StrokeForm& stroke) {
+    if (static_cast<double>(path.PointCount()) * area.Height() < mostEdgeRows) return false;
+    EdgeCounter counter{area.top - offset.y, area.bottom - offset.y, stroke.width, {}, {}};
+    path.Visit(counter);
+    return counter.rows * (stroke.width > 0 ? 2 : 1) > mostEdgeRows;
+}
+
+Mask MakeDenseMask(const Path& path, Point offset, const Rect& area, const StrokeForm& stroke, bool smooth) {
+    Mask mask{area, (area.Width() + 3) / 4 * 4, {}};
+    mask.bytes.resize(static_cast<std::size_t>(mask.stride) * static_cast<std::size_t>(area.Height()));
+    const int rows = std::max(mostCounters / ((area.Width() * samples + 1) * samples), 1);
+    const Flatness flatness{offset, BoxOf(area).Grown(stroke.width), stroke.width};
+    for (int top = area.top; top < area.bottom; top += rows) {
+        Band band({area.left, top, area.right, std::min(top + rows, area.bottom)});
+        AddEdges(band, path, flatness, stroke);
+        band.WriteTo(mask);
+    }
+    constexpr int full = samples * samples;
+    for (std::uint8_t& byte : mask.bytes) {
+        const int covered = smooth ? byte : byte >= full / 2 ? full : 0;
+        byte = static_cast<std::uint8_t>(covered * 255 / full);
+    }
+    return mask;
+}
+
+}  // namespace zorvic::vek

@@ -1,0 +1,33 @@
+// Coverage of outlines with so many edges across the picture that Cairo's rasteriser, which keeps the edges of a row in
+// order, would take minutes. Here each edge only counts up and down in 4 x 4 samples per pixel.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "path.h"
+#include "style.h"
+
+namespace zorvic::vek {
+
+// Coverage 0..255 of an area.
+struct Mask {
+    Rect area;
+    int stride = 0;  // bytes, a multiple of 4
+    std::vector<std::uint8_t> bytes;
+};
+
+struct StrokeForm {
+    double width = 0;  // 0: the path is filled
+    double miterLimit = 0;
+    Cap cap = Cap::butt;
+    Join join = Join::miter;
+};
+
+// Whether drawing the path takes more than a moment in Cairo.
+bool IsDense(const Path& path, Point offset, const Rect& area, const StrokeForm& stroke);
+
+// smooth is false for all or nothing.
+Mask MakeDenseMask(const Path& path, Point offset, const Rect& area, const StrokeForm& stroke, bool smooth);
+
+}  // namespace zorvic::vek

@@ -1,0 +1,40 @@
+// Gradients as Cairo patterns.
+#include "gradient.h"
+
+namespace zorvic::vek {
+
+void Gradient::AddStop(double offset, std::uint32_t color) {
+    const Stop stop{std::clamp(offset, 0.0, 1.0), color};
+    const auto after = std::upper_bound(stops.begin(), stops.end(), stop,
+                                        [](const Stop& a, const Stop& b) { return a.offset < b.offset; });
+    stops.insert(after, stop);
+    pattern.reset();
+}
+
+cairo_pattern_t* Gradient::Pattern(Point offset, int opacity) {
+    if (pattern && madeOffset == offset && madeOpacity == opacity &&
+        cairo_pattern_status(pattern.get()) == CAIRO_STATUS_SUCCESS) {
+        return pattern.get();
+    }
+    // A line without length shows its last colour, circles that are one show nothing.
+    const bool point = first == last;
+    std::vector<Stop> shown = stops;
+    if (point) shown.clear();
+    if (point && !radial && !stops.empty()) shown.push_back(stops.back());
+
+    const Point a = first.center + offset, b = last.center + offset;
+    pattern.reset(radial ? cairo_pattern_create_radial(a.x, a.y, first.radius, b.x, b.y, last.radius)
+                         : cairo_pattern_create_linear(a.x, a.y, point ? b.x + 1 : b.x, b.y));
+    for (const Stop& stop : shown) {
+        const auto channel = [&](int shift) { return (stop.color >> shift & 0xFF) / 255.0; };
+        cairo_pattern_add_color_stop_rgba(pattern.get(), stop.offset, channel(16), channel(8), channel(0),
+                                          channel(24) * opacity / 255);
+    }
+    cairo_pattern_set_extend(pattern.get(), CAIRO_EXTEND_PAD);
+    Require(cairo_pattern_status(pattern.get()));
+    madeOffset = offset;
+    madeOpacity = opacity;
+    return pattern.get();
+}
+
+}  // namespace zorvic::vek
