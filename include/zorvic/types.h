@@ -44,8 +44,7 @@ typedef struct HSLTriple {
 
 /** How a texture is laid out in the rectangle it is drawn to. */
 typedef struct TextureMode {
-    LONG layout;    /**< 1 nine-grid, 2 tile, 3 centre, 4 nine-grid with a one-colour centre, 5 top tile, 6 uniform;
-                         any other value stretches */
+    LONG layout;    /**< see ZORVIC_LAYOUT_STRETCH */
     DWORD argument; /**< flags of the layout */
     RECT margins;   /**< texture pixels, measured inward from each edge */
 } TextureMode;
@@ -57,7 +56,7 @@ typedef struct TextureDrawParams {
     BYTE reserved0[3];    /**< 0 */
     float tileScale;      /**< scale of tiles and of nine-grid margins on the destination; 1 is none */
     BYTE reserved1[4];    /**< 0 */
-    double scale;         /**< scale of the nine-grid's source; 1 is none */
+    double scale;         /**< scale of the nine-grid's source; 1 is none, 0 leaves nothing to be drawn */
     float cornerRadii[4]; /**< rounded corners: x and y radius in destination pixels, then two values that only ask
                                for rounding when they are not 0 */
     LONG ellipse;         /**< not 0: rounding cuts the ellipse that fills the destination */

@@ -18,6 +18,9 @@
 #define ZORVIC_ZORVIC_H
 
 #include "zorvic/types.h"
+#ifndef __cplusplus
+#include <stdbool.h>
+#endif
 
 #ifdef __cplusplus
 #define ZORVIC_EXTERN extern "C"
@@ -28,6 +31,12 @@
 #define ZORVIC_API ZORVIC_EXTERN
 #else
 #define ZORVIC_API ZORVIC_EXTERN __declspec(dllimport)
+#endif
+/* In C++ these have C++ linkage. */
+#if defined(__cplusplus) && !defined(ZORVIC_BUILD)
+#define ZORVIC_API_CXX __declspec(dllimport)
+#else
+#define ZORVIC_API_CXX ZORVIC_API
 #endif
 #define ZORVIC_CALL __cdecl
 
@@ -358,7 +367,8 @@ ZORVIC_API int ZORVIC_CALL DrawBitmapEx2(HGCANVAS canvas, const RECT* dst, HGBIT
 /** Draws a texture's current slice into a rectangle by the texture's layout and operation word.
  *  \param dst     logical pixels
  *  \param filter  sampling, see ZORVIC_FILTER_NEAREST
- *  \return 1 once the handles are valid; 0 for NULL, or for a plain stretch when no slice is current */
+ *  \return 1 once the handles are valid; 0 for NULL, for a plain stretch when no slice is current, and always from the
+ *          layouts that tile */
 ZORVIC_API int ZORVIC_CALL DrawTexture(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, DWORD filter);
 
 /** DrawTexture with an opacity and scales.
@@ -374,6 +384,73 @@ ZORVIC_API int ZORVIC_CALL DrawTextureEx2(HGCANVAS canvas, const RECT* dst, HGTE
 /** DrawTexture with every choice in a record. \param reserved NULL */
 ZORVIC_API int ZORVIC_CALL DrawTextureEx3(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture,
                                           const TextureDrawParams* params, void* reserved);
+
+/* ----------------------------------------------------------------------------------------------- texture layouts */
+
+/* What DrawTexture does for a texture's layout mode, for hosts that choose the layout themselves. Arguments that all
+ * have in common:
+ *   dst     logical pixels; each piece is clipped and drawn as DrawBitmapEx2 would draw it
+ *   slice   texture pixels; NULL, all of the texture. Edges may be given in either order. A slice that is empty or
+ *           reaches outside the texture makes the call return 0 without drawing
+ *   filter  sampling, see ZORVIC_FILTER_NEAREST
+ *   alpha   opacity 0..255, as for DrawBitmapEx
+ * In C++ these five have C++ linkage: a host compiled by MSVC links them from zorvic32.lib, others (and C hosts) from
+ * libzorvic32.dll.a, which knows them by both names. */
+
+/** Values of TextureMode::layout; any other value stretches. */
+enum {
+    ZORVIC_LAYOUT_STRETCH = 0,
+    ZORVIC_LAYOUT_NINE_GRID = 1,        /**< DrawTexture9Grid; the argument holds its edge flags */
+    ZORVIC_LAYOUT_TILE = 2,             /**< DrawTextureTile; the argument holds its flags */
+    ZORVIC_LAYOUT_CENTER = 3,           /**< DrawTextureCenter */
+    ZORVIC_LAYOUT_NINE_GRID_FILLED = 4, /**< DrawTexture9Grid with a one-colour centre */
+    ZORVIC_LAYOUT_TOP_TILE = 5,         /**< DrawTextureTopTile */
+    ZORVIC_LAYOUT_UNIFORM = 6           /**< DrawTextureUniform, centred if the argument is 1 */
+};
+
+/** Flags of DrawTextureTile. */
+enum { ZORVIC_TILE_SCALED = 0x10 /**< tiles are drawn scaled */ };
+
+/** Draws a slice as large as dst allows without distortion, in the middle of dst.
+ *  \return 1; 0 for NULL or a bad slice */
+ZORVIC_API_CXX int ZORVIC_CALL DrawTextureCenter(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const RECT* slice,
+                                                 DWORD filter, BYTE alpha);
+
+/** Fills dst without distortion: the texture inside its margins is cropped to the shape of dst.
+ *  \param margins  texture pixels, measured inward from each edge of the texture
+ *  \param center   the middle of that area is shown, else its top left corner
+ *  \return 1; 0 for NULL */
+ZORVIC_API_CXX int ZORVIC_CALL DrawTextureUniform(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture,
+                                                  const RECT* margins, DWORD filter, BYTE alpha, bool center);
+
+/** Tiles dst with a slice, from its top left corner. The last tile of a row is cut at the right edge of dst, and the
+ *  rows below it consist of tiles as narrow as that: with full rows below, make dst a multiple of the tile's width.
+ *  \param flags  ZORVIC_TILE_SCALED or 0
+ *  \param scale  size of a tile in slices, when it is scaled
+ *  \return 0, whatever was drawn */
+ZORVIC_API_CXX int ZORVIC_CALL DrawTextureTile(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const RECT* slice,
+                                               DWORD filter, BYTE alpha, DWORD flags, float scale);
+
+/** Tiles dst from left to right with a slice of which the top margin is drawn along the top, at its own height, and the
+ *  bottom margin stretched over what is left below.
+ *  \param margins  heights in texture pixels: top and bottom count
+ *  \return 0, whatever was drawn */
+ZORVIC_API_CXX int ZORVIC_CALL DrawTextureTopTile(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture,
+                                                  const RECT* slice, const RECT* margins, DWORD filter, BYTE alpha);
+
+/** Draws a slice as a frame: corners as large as its margins, edges stretched along dst, the centre stretched or filled.
+ *  \param margins           texture pixels, measured inward from each edge of the slice; limited to the smaller of
+ *                           the two widths and heights
+ *  \param centerFill        not 0: the centre is filled (as by FillPreMulColorRectEx, with the texture's operation
+ *                           word) with the pixel in the middle of the slice's centre, scaled by the opacity
+ *  \param edgeFlags         margins to be limited once more: left 1, top 2, right 4, bottom 8. Without effect
+ *  \param destinationScale  above 1: margins on dst are that much larger; the record is scaled as a rectangle, so that
+ *                           right and bottom may differ by the rounding
+ *  \param sourceScale       not 1: slice and margins are divided by it, and margins on dst multiplied
+ *  \return 1; 0 for NULL or a bad slice */
+ZORVIC_API_CXX int ZORVIC_CALL DrawTexture9Grid(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const RECT* slice,
+                                                const RECT* margins, DWORD filter, int centerFill, BYTE alpha,
+                                                DWORD edgeFlags, float destinationScale, double sourceScale);
 
 /* ------------------------------------------------------------------------------------------- composing canvases */
 

@@ -2,6 +2,7 @@
 #include <bit>
 
 #include "draw/bitmaps.h"
+#include "draw/layouts.h"
 #include "raster/lookup_tables.h"
 #include "zorvic/zorvic.h"
 
@@ -48,5 +49,5 @@ int DrawTextureEx2(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, DWORD fi
 int DrawTextureEx3(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const TextureDrawParams* params, void*) {
     if (!canvas || !texture || !params) return 0;
     if (!dst) return 1;
-    return zorvic::DrawTextureSlice(*FromHandle(canvas), *dst, *FromHandle(texture), *params);
+    return zorvic::DrawTexture(*FromHandle(canvas), *dst, *FromHandle(texture), *params);
 }

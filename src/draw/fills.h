@@ -5,12 +5,16 @@
 
 namespace zorvic {
 
+// Every byte x factor >> 8, for factors 1..256.
+constexpr DWORD ScaleBytes(DWORD color, DWORD factor) {
+    const DWORD redBlue = (color & 0x00FF00FF) * factor >> 8 & 0x00FF00FF;
+    const DWORD alphaGreen = (color >> 8 & 0x00FF00FF) * factor & 0xFF00FF00;
+    return alphaGreen | redBlue;
+}
+
 // Each colour channel becomes (channel x (alpha + 1)) >> 8.
 constexpr DWORD Premultiply(DWORD color) {
-    const DWORD alpha = color >> 24;
-    const DWORD redBlue = ((color & 0xFF00FF) * (alpha + 1)) >> 8 & 0xFF00FF;
-    const DWORD green = ((color & 0x00FF00) * (alpha + 1)) >> 8 & 0x00FF00;
-    return alpha << 24 | redBlue | green;
+    return (color & 0xFF000000) | (ScaleBytes(color, (color >> 24) + 1) & 0x00FFFFFF);
 }
 
 // Fills with a premultiplied colour by the mode's operation. Colours that change nothing return 1 before the canvas is

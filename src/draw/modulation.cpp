@@ -1,10 +1,7 @@
 // Clipping and locking of modulated draws; the pixels are the engine's work.
 #include "draw/modulation.h"
 
-#include <algorithm>
-#include <limits>
-
-#include "canvas/rect.h"
+#include "draw/coordinates.h"
 #include "raster/modulation.h"
 
 namespace zorvic {
@@ -12,11 +9,7 @@ namespace zorvic {
 int DrawModulation(Canvas& canvas, POINT corner, const Bitmap& bitmap, const RECT* src, DWORD color) {
     const SIZE size = bitmap.Size();
     const RECT area = src ? *src : RECT{0, 0, size.cx, size.cy};
-    const auto farEdge = [](LONG nearEdge, std::int64_t extent) {
-        using Limits = std::numeric_limits<LONG>;
-        return static_cast<LONG>(std::clamp<std::int64_t>(nearEdge + extent, Limits::min(), Limits::max()));
-    };
-    const RECT dst{corner.x, corner.y, farEdge(corner.x, WidthOf(area)), farEdge(corner.y, HeightOf(area))};
+    const RECT dst = ToRect(corner.x, corner.y, corner.x + WidthOf(area), corner.y + HeightOf(area));
     const RECT clip = canvas.VisibleRect();
     RECT visible;
     if (!IntersectRect(&visible, &clip, &dst)) return 1;

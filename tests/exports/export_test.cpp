@@ -1,6 +1,7 @@
 // The DLL as the world sees it: names, aliases, imports, record layouts, and what calls without valid arguments return.
 #include <cstddef>
 
+#include "exports/c_host.h"
 #include "exports/null_cases.h"
 #include "exports/pe_image.h"
 
@@ -20,7 +21,7 @@ TEST(Exports, AreExactlyTheDocumentedNames) {
     std::set<std::string> got;
     for (const auto& [name, address] : Dll().Exports()) got.insert(name);
     EXPECT_EQ(got, wanted);
-    EXPECT_EQ(got.size(), 113U);
+    EXPECT_EQ(got.size(), 118U);
 }
 
 TEST(Exports, AliasesAreOneFunction) {
@@ -45,6 +46,26 @@ TEST(Exports, AliasesAreOneFunction) {
     std::set<const void*> addresses;
     for (const auto& [name, address] : exports) addresses.insert(address);
     EXPECT_EQ(addresses.size(), exports.size() - std::size(aliases)) << "other names are functions of their own";
+}
+
+// Hosts that MSVC compiled ask for decorated names; the import library leads all others, in C or C++, to the same ones.
+TEST(Exports, LayoutsAreLinkedByHostsOfEveryKind) {
+    Function fromC[layoutCount];
+    LayoutsSeenFromC(fromC);
+    const auto seen = [](auto* function) { return reinterpret_cast<Function>(function); };
+    const std::pair<std::string, Function> layouts[layoutCount] = {{"?DrawTextureCenter@", seen(DrawTextureCenter)},
+                                                                   {"?DrawTextureUniform@", seen(DrawTextureUniform)},
+                                                                   {"?DrawTextureTile@", seen(DrawTextureTile)},
+                                                                   {"?DrawTextureTopTile@", seen(DrawTextureTopTile)},
+                                                                   {"?DrawTexture9Grid@", seen(DrawTexture9Grid)}};
+    const auto exports = Dll().Exports();
+    for (int i = 0; i < layoutCount; ++i) {
+        const auto& [name, fromCpp] = layouts[i];
+        const auto found = exports.lower_bound(name);
+        ASSERT_TRUE(found != exports.end() && found->first.starts_with(name)) << name;
+        EXPECT_EQ(reinterpret_cast<const void*>(fromCpp), found->second) << name;
+        EXPECT_EQ(fromC[i], fromCpp) << name;
+    }
 }
 
 TEST(Exports, DependOnSystemDllsOnly) {

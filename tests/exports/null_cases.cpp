@@ -109,6 +109,28 @@ const NullCase cases[] = {
     {"DrawTextureEx3", [](With& o) { return Number(DrawTextureEx3(nullptr, &o.rect, o.texture.get(), &o.params, nullptr)); }, 0},
     {"DrawTextureEx3", [](With& o) { return Number(DrawTextureEx3(o.canvas.get(), &o.rect, nullptr, &o.params, nullptr)); }, 0},
 
+    // texture layouts
+    {"?DrawTextureCenter@@YAHPAUHGCANVAS__@@PBUtagRECT@@PAUHGTEXTURE__@@1KE@Z",
+     [](With& o) { return Number(DrawTextureCenter(nullptr, &o.rect, o.texture.get(), nullptr, 0, 9)); }, 0},
+    {"?DrawTextureCenter@@YAHPAUHGCANVAS__@@PBUtagRECT@@PAUHGTEXTURE__@@1KE@Z",
+     [](With& o) { return Number(DrawTextureCenter(o.canvas.get(), &o.rect, nullptr, nullptr, 0, 9)); }, 0},
+    {"?DrawTextureUniform@@YAHPAUHGCANVAS__@@PBUtagRECT@@PAUHGTEXTURE__@@1KE_N@Z",
+     [](With& o) { return Number(DrawTextureUniform(nullptr, &o.rect, o.texture.get(), &o.rect, 0, 9, true)); }, 0},
+    {"?DrawTextureUniform@@YAHPAUHGCANVAS__@@PBUtagRECT@@PAUHGTEXTURE__@@1KE_N@Z",
+     [](With& o) { return Number(DrawTextureUniform(o.canvas.get(), &o.rect, nullptr, &o.rect, 0, 9, true)); }, 0},
+    {"?DrawTextureTile@@YAHPAUHGCANVAS__@@PBUtagRECT@@PAUHGTEXTURE__@@1KEKM@Z",
+     [](With& o) { return Number(DrawTextureTile(nullptr, &o.rect, o.texture.get(), nullptr, 0, 9, 0, 1)); }, 0},
+    {"?DrawTextureTile@@YAHPAUHGCANVAS__@@PBUtagRECT@@PAUHGTEXTURE__@@1KEKM@Z",
+     [](With& o) { return Number(DrawTextureTile(o.canvas.get(), &o.rect, nullptr, nullptr, 0, 9, 0, 1)); }, 0},
+    {"?DrawTextureTopTile@@YAHPAUHGCANVAS__@@PBUtagRECT@@PAUHGTEXTURE__@@11KE@Z",
+     [](With& o) { return Number(DrawTextureTopTile(nullptr, &o.rect, o.texture.get(), nullptr, &o.rect, 0, 9)); }, 0},
+    {"?DrawTextureTopTile@@YAHPAUHGCANVAS__@@PBUtagRECT@@PAUHGTEXTURE__@@11KE@Z",
+     [](With& o) { return Number(DrawTextureTopTile(o.canvas.get(), &o.rect, nullptr, nullptr, &o.rect, 0, 9)); }, 0},
+    {"?DrawTexture9Grid@@YAHPAUHGCANVAS__@@PBUtagRECT@@PAUHGTEXTURE__@@11KHEKMN@Z",
+     [](With& o) { return Number(DrawTexture9Grid(nullptr, &o.rect, o.texture.get(), nullptr, &o.rect, 0, 0, 9, 0, 1, 1)); }, 0},
+    {"?DrawTexture9Grid@@YAHPAUHGCANVAS__@@PBUtagRECT@@PAUHGTEXTURE__@@11KHEKMN@Z",
+     [](With& o) { return Number(DrawTexture9Grid(o.canvas.get(), &o.rect, nullptr, nullptr, &o.rect, 0, 0, 9, 0, 1, 1)); }, 0},
+
     // composing canvases
     {"MixCanvas", [](With& o) { return Number(MixCanvas(nullptr, &o.rect, o.canvas.get(), &o.rect, 9)); }, 0},
     {"MixCanvas", [](With& o) { return Number(MixCanvas(o.canvas.get(), &o.rect, nullptr, &o.rect, 9)); }, 0},

@@ -1,0 +1,320 @@
+// Fitted, cropped and tiled textures: where each piece comes from and goes to, in literal rectangles.
+#include <cmath>
+
+#include "draw/pieces.h"
+#include "support/random.h"
+
+using namespace host;
+
+namespace {
+
+constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
+constexpr float infinite = std::numeric_limits<float>::infinity();
+
+constexpr RECT cell{20, 10, 30, 20};  // a slice of 10 x 10 pixels
+
+// Rows of unscaled tiles of the cell.
+struct TileRow {
+    LONG top, bottom;
+    std::vector<LONG> widths;
+};
+std::vector<Piece> TilesFrom(LONG left, const std::vector<TileRow>& rows) {
+    std::vector<Piece> pieces;
+    for (const TileRow& row : rows) {
+        LONG x = left;
+        for (const LONG width : row.widths) {
+            const RECT shown{cell.left, cell.top, cell.left + width, cell.top + row.bottom - row.top};
+            pieces.push_back({{x, row.top, x + width, row.bottom}, shown});
+            x += width;
+        }
+    }
+    return pieces;
+}
+
+}  // namespace
+
+TEST(Layouts, CenterFitsTheSliceIntoTheMiddle) {
+    const struct {
+        RECT slice, dst, fitted, src;
+    } cases[] = {
+        {{0, 0, 100, 50}, {0, 0, 100, 100}, {0, 25, 100, 75}, {0, 0, 100, 50}},
+        {{10, 0, 30, 60}, {5, 5, 105, 65}, {45, 5, 65, 65}, {10, 0, 30, 60}},
+        {{0, 0, 100, 60}, {3, 4, 103, 64}, {3, 4, 103, 64}, {0, 0, 100, 60}},
+        // 30 rows fit, 31 are free: one of them goes to the image.
+        {{0, 0, 100, 60}, {0, 0, 50, 61}, {0, 15, 50, 46}, {0, 0, 100, 60}},
+        // Edges in reverse.
+        {{30, 50, 10, 20}, {0, 0, 60, 30}, {20, 0, 40, 30}, {10, 20, 30, 50}},
+        {{0, 0, 100, 60}, {-2000000000, 0, 2000000000, 50}, {-42, 0, 42, 50}, {0, 0, 100, 60}},
+        {{0, 0, 100, 60}, {40, 0, 10, 50}, {}, {}},
+    };
+    const OwnedTexture skin = MakeSkin();
+    for (const auto& c : cases)
+        ExpectPieces("slice " + ToText(c.slice) + " dst " + ToText(c.dst), skin.get(),
+                     [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
+                         return DrawTextureCenter(canvas, &c.dst, skin.get(), &c.slice, filter, alpha);
+                     },
+                     1, {{c.fitted, c.src}});
+}
+
+TEST(Layouts, UniformCropsToTheShapeOfTheDestination) {
+    const struct {
+        RECT margins, dst;
+        bool center;
+        RECT src;
+    } cases[] = {
+        {{0, 0, 0, 0}, {0, 0, 50, 50}, false, {0, 0, 60, 60}},
+        {{0, 0, 0, 0}, {0, 0, 50, 50}, true, {20, 0, 80, 60}},
+        // 84 x 52 pixels inside the margins; 20 / 100 x 84 = 16.8 rows, rounded.
+        {{10, 5, 6, 3}, {0, 0, 100, 20}, false, {10, 5, 94, 22}},
+        {{10, 5, 6, 3}, {0, 0, 100, 20}, true, {10, 22, 94, 39}},
+        // 10 / 100 x 52 = 5.2 columns.
+        {{10, 5, 6, 3}, {7, 0, 17, 100}, true, {49, 5, 54, 57}},
+        {{60, 0, 60, 0}, {0, 0, 50, 50}, true, {}},
+        {{0, 60, 0, 0}, {0, 0, 50, 50}, false, {}},
+        {{0, 0, 0, 0}, {50, 0, 0, 50}, false, {}},
+        {{LONG_MIN, LONG_MIN, LONG_MIN, LONG_MIN}, {0, 0, 50, 50}, true, {}},
+    };
+    const OwnedTexture skin = MakeSkin();
+    SetTextureSlice(skin.get(), 1, &cell);  // has no effect
+    for (const auto& c : cases)
+        ExpectPieces("margins " + ToText(c.margins) + " dst " + ToText(c.dst), skin.get(),
+                     [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
+                         return DrawTextureUniform(canvas, &c.dst, skin.get(), &c.margins, filter, alpha, c.center);
+                     },
+                     1, {{c.dst, c.src}});
+}
+
+TEST(Layouts, TilesAreCutAtTheRightForGood) {
+    const struct {
+        const char* name;
+        RECT dst;
+        DWORD flags;
+        float scale;
+        std::vector<Piece> pieces;
+    } cases[] = {
+        {"no cut", {5, 7, 25, 27}, 0, 1, TilesFrom(5, {{7, 17, {10, 10}}, {17, 27, {10, 10}}})},
+        {"one cut",
+         {0, 0, 25, 25},
+         0,
+         1,
+         TilesFrom(0, {{0, 10, {10, 10, 5}}, {10, 20, {5, 5, 5, 5, 5}}, {20, 25, {5, 5, 5, 5, 5}}})},
+        {"a cut in every row",
+         {1, 2, 28, 35},
+         0,
+         1,
+         TilesFrom(1, {{2, 12, {10, 10, 7}},
+                       {12, 22, {7, 7, 7, 6}},
+                       {22, 32, {6, 6, 6, 6, 3}},
+                       {32, 35, {3, 3, 3, 3, 3, 3, 3, 3, 3}}})},
+        {"larger than the destination", {3, 4, 9, 8}, 0, 1, TilesFrom(3, {{4, 8, {6}}})},
+        {"a scale without its flag", {0, 0, 20, 10}, 0xFFFFFFEF, 3, TilesFrom(0, {{0, 10, {10, 10}}})},
+        // 10 / 1.5 + 20 = 26.7 and 5 / 1.5 + 10 = 13.3, truncated.
+        {"scaled",
+         {0, 0, 40, 20},
+         ZORVIC_TILE_SCALED,
+         1.5F,
+         {{{0, 0, 15, 15}, cell},
+          {{15, 0, 30, 15}, cell},
+          {{30, 0, 40, 15}, {20, 10, 26, 20}},
+          {{0, 15, 10, 20}, {20, 10, 26, 13}},
+          {{10, 15, 20, 20}, {20, 10, 26, 13}},
+          {{20, 15, 30, 20}, {20, 10, 26, 13}},
+          {{30, 15, 40, 20}, {20, 10, 26, 13}}}},
+        // 10 x 0.25 + 20 = 22.5, truncated.
+        {"reduced", {0, 0, 4, 2}, ZORVIC_TILE_SCALED, 0.25F, {{{0, 0, 2, 2}, cell}, {{2, 0, 4, 2}, cell}}},
+        {"smaller than a pixel", {0, 0, 40, 20}, ZORVIC_TILE_SCALED, 0.05F, {}},
+        {"cut to nothing of the source", {0, 0, 40, 20}, ZORVIC_TILE_SCALED, 1e30F, {}},
+        {"scale 0", {0, 0, 40, 20}, ZORVIC_TILE_SCALED, 0, {}},
+        {"scale below 0", {0, 0, 40, 20}, ZORVIC_TILE_SCALED, -1, {}},
+        {"no scale", {0, 0, 40, 20}, ZORVIC_TILE_SCALED, notANumber, {}},
+        {"infinite scale", {0, 0, 40, 20}, ZORVIC_TILE_SCALED, infinite, {}},
+        {"empty", {0, 20, 40, 20}, 0, 1, {}},
+        {"reversed", {40, 0, 0, 20}, 0, 1, {}},
+    };
+    const OwnedTexture skin = MakeSkin();
+    for (const auto& c : cases)
+        ExpectPieces(
+            c.name, skin.get(),
+            [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
+                return DrawTextureTile(canvas, &c.dst, skin.get(), &cell, filter, alpha, c.flags, c.scale);
+            },
+            0, c.pieces);
+}
+
+// Tile after tile, also where nothing is visible.
+TEST(Layouts, TilesOutsideTheClipCount) {
+    const OwnedTexture skin = MakeSkin();
+    zorvic::Random random(1);
+    for (int i = 0; i < 40; ++i) {
+        const RECT slice{2, 3, 2 + 1 + random.Below(40), 3 + 1 + random.Below(30)};
+        const RECT dst{-random.Below(900), -random.Below(900), 121 + random.Below(900), 101 + random.Below(900)};
+        std::vector<Piece> pieces;
+        RECT shown = slice;
+        for (LONG top = dst.top; top < dst.bottom;) {
+            const LONG bottom = std::min(top + shown.bottom - shown.top, dst.bottom);
+            shown.bottom = shown.top + bottom - top;
+            for (LONG left = dst.left; left < dst.right;) {
+                const LONG right = std::min(left + shown.right - shown.left, dst.right);
+                shown.right = shown.left + right - left;
+                pieces.push_back({{left, top, right, bottom}, shown});
+                left = right;
+            }
+            top = bottom;
+        }
+        ExpectPieces(
+            "slice " + ToText(slice) + " dst " + ToText(dst), skin.get(),
+            [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
+                return DrawTextureTile(canvas, &dst, skin.get(), &slice, filter, alpha, 0, 1);
+            },
+            0, pieces);
+    }
+}
+
+TEST(Layouts, TopTileStretchesTheBottomBandBelowTheTopOne) {
+    constexpr RECT slice{10, 5, 40, 45};
+    const struct {
+        const char* name;
+        RECT dst, margins;
+        std::vector<Piece> pieces;
+    } cases[] = {
+        {"band and body",
+         {0, 0, 70, 50},
+         {99, 12, 99, 9},
+         {{{0, 0, 30, 12}, {10, 5, 40, 17}},
+          {{0, 12, 30, 50}, {10, 36, 40, 45}},
+          {{30, 0, 60, 12}, {10, 5, 40, 17}},
+          {{30, 12, 60, 50}, {10, 36, 40, 45}},
+          {{60, 0, 70, 12}, {10, 5, 20, 17}},
+          {{60, 12, 70, 50}, {10, 36, 20, 45}}}},
+        {"far to the left", {-90000, 3, 30, 15}, {0, 12, 0, 9}, {{{0, 3, 30, 15}, {10, 5, 40, 17}}}},
+        {"lower than the band", {0, 2, 30, 10}, {0, 12, 0, 9}, {{{0, 2, 30, 10}, {10, 5, 40, 13}}}},
+        {"no bottom margin", {0, 0, 30, 50}, {0, 12, 0, 0}, {{{0, 0, 30, 12}, {10, 5, 40, 17}}}},
+        {"no top margin", {0, 0, 30, 50}, {0, 0, 0, 9}, {{{0, 0, 30, 50}, {10, 36, 40, 45}}}},
+        {"bands beyond the texture", {0, 0, 30, 90}, {0, 56, 0, 46}, {}},
+        {"reversed", {30, 0, 0, 50}, {0, 12, 0, 9}, {}},
+    };
+    const OwnedTexture skin = MakeSkin();
+    for (const auto& c : cases)
+        ExpectPieces(
+            c.name, skin.get(),
+            [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
+                return DrawTextureTopTile(canvas, &c.dst, skin.get(), &slice, &c.margins, filter, alpha);
+            },
+            0, c.pieces);
+}
+
+TEST(Layouts, RefuseSlicesThatAreEmptyOrLeaveTheTexture) {
+    const OwnedTexture skin = MakeSkin();
+    const RECT dst{0, 0, 100, 90}, margins{5, 5, 5, 5};
+    for (const RECT& slice : {RECT{90, 0, 101, 10}, RECT{-1, 0, 5, 5}, RECT{0, 0, 10, 61}, RECT{0, -1, 10, 9},
+                              RECT{5, 5, 5, 9}, RECT{5, 9, 9, 9}, RECT{LONG_MAX, 0, LONG_MIN, 9}})
+        ExpectPieces(ToText(slice), skin.get(),
+                     [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
+                         return DrawTextureCenter(canvas, &dst, skin.get(), &slice, filter, alpha) +
+                                DrawTextureTile(canvas, &dst, skin.get(), &slice, filter, alpha, 0, 1) +
+                                DrawTextureTopTile(canvas, &dst, skin.get(), &slice, &margins, filter, alpha) +
+                                DrawTexture9Grid(canvas, &dst, skin.get(), &slice, &margins, filter, 0, alpha, 0, 1, 1);
+                     },
+                     0, {});
+}
+
+TEST(Layouts, AreChosenByTheTexturesMode) {
+    const RECT dst{3, 4, 98, 79}, margins{6, 7, 8, 9}, slice{10, 5, 43, 44}, other{};
+    constexpr float tileScale = 1.5F;
+    constexpr double scale = 2;
+    using Direct = int (*)(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const RECT* slice, const RECT* margins,
+                           DWORD filter, BYTE alpha);
+    const struct {
+        LONG layout;
+        DWORD argument;
+        Direct direct;
+    } cases[] = {
+        {ZORVIC_LAYOUT_NINE_GRID, 0xF,
+         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT* m, DWORD f, BYTE a) {
+             return DrawTexture9Grid(c, d, t, s, m, f, 0, a, 0xF, tileScale, scale);
+         }},
+        {ZORVIC_LAYOUT_NINE_GRID_FILLED, 0,
+         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT* m, DWORD f, BYTE a) {
+             return DrawTexture9Grid(c, d, t, s, m, f, 1, a, 0, tileScale, scale);
+         }},
+        {ZORVIC_LAYOUT_TILE, ZORVIC_TILE_SCALED,
+         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT*, DWORD f, BYTE a) {
+             return DrawTextureTile(c, d, t, s, f, a, ZORVIC_TILE_SCALED, tileScale);
+         }},
+        {ZORVIC_LAYOUT_CENTER, 0,
+         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT*, DWORD f, BYTE a) {
+             return DrawTextureCenter(c, d, t, s, f, a);
+         }},
+        {ZORVIC_LAYOUT_TOP_TILE, 0,
+         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT* m, DWORD f, BYTE a) {
+             return DrawTextureTopTile(c, d, t, s, m, f, a);
+         }},
+        {ZORVIC_LAYOUT_UNIFORM, 1,
+         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT*, const RECT* m, DWORD f, BYTE a) {
+             return DrawTextureUniform(c, d, t, m, f, a, true);
+         }},
+        {ZORVIC_LAYOUT_UNIFORM, 2,
+         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT*, const RECT* m, DWORD f, BYTE a) {
+             return DrawTextureUniform(c, d, t, m, f, a, false);
+         }},
+        {ZORVIC_LAYOUT_STRETCH, 1,
+         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT*, DWORD f, BYTE a) {
+             return s ? DrawBitmapEx2(c, d, AsBitmap(t), s, f, a) : 0;
+         }},
+    };
+    for (const bool sliced : {false, true}) {
+        const OwnedTexture skin = MakeSkin();
+        SetTextureFilter(skin.get(), ZORVIC_OP_SOURCE_OVER);
+        const RECT slices[] = {slice, other};
+        if (sliced) SetTextureSlice(skin.get(), 2, slices);
+        SetTextureCurSlice(skin.get(), 0);
+        for (const auto& c : cases) {
+            const TextureMode mode{c.layout, c.argument, margins};
+            SetTextureMode(skin.get(), &mode);
+            const OwnedCanvas canvas = MakeCanvas(wholeView), wanted = MakeCanvas(wholeView);
+            EXPECT_EQ(DrawTextureEx2(canvas.get(), &dst, skin.get(), ZORVIC_FILTER_BILINEAR, 200, tileScale, scale),
+                      c.direct(wanted.get(), &dst, skin.get(), sliced ? &slice : nullptr, &margins,
+                               ZORVIC_FILTER_BILINEAR, 200))
+                << "layout " << c.layout;
+            EXPECT_TRUE(Shows(canvas.get(), Snapshot(wanted.get()))) << "layout " << c.layout;
+            EXPECT_EQ(DrawTexture(canvas.get(), nullptr, skin.get(), 0), 1) << "no rectangle: nothing to do";
+        }
+    }
+}
+
+TEST(Layouts, AnyArgumentIsHarmless) {
+    const OwnedTexture skin = MakeSkin();
+    const OwnedCanvas canvas(CreateCanvas(9, 7, nullptr));
+    constexpr LONG edges[] = {LONG_MIN, -3, 0, 7, LONG_MAX};
+    constexpr float scales[] = {0, -2, 0.01F, 3, 1e30F, infinite, notANumber};
+    const RECT slices[] = {{0, 0, 100, 60}, {50, 20, 51, 21}};
+    int draws = 0;
+    for (const LONG left : edges)
+        for (const LONG top : edges)
+            for (const LONG right : edges)
+                for (const LONG bottom : edges)
+                    for (const RECT& slice : slices) {
+                        const RECT absurd{left, top, right, bottom}, plain{-2, -1, 30, 40};
+                        const float scale = scales[++draws % 7];
+                        for (const auto& [dst, margins] :
+                             {std::pair(absurd, plain), {plain, absurd}, {absurd, absurd}}) {
+                            const auto texture = skin.get();
+                            const RECT *d = &dst, *m = &margins;
+                            DrawTextureCenter(canvas.get(), d, texture, &slice, 0, 255);
+                            DrawTextureUniform(canvas.get(), d, texture, m, 0, 255, draws % 2 == 0);
+                            DrawTextureTile(canvas.get(), d, texture, &slice, 0, 255, ZORVIC_TILE_SCALED, scale);
+                            DrawTextureTile(canvas.get(), d, texture, &slice, 0, 255, 0, 1);
+                            DrawTextureTopTile(canvas.get(), d, texture, &slice, m, 0, 255);
+                            for (const double source : {1.0, double{scale}})
+                                EXPECT_EQ(DrawTexture9Grid(canvas.get(), d, texture, &slice, m, 0, draws % 2, 255, 0,
+                                                           scale, source),
+                                          1);
+                        }
+                    }
+    const RECT dst{0, 0, 9, 7};
+    EXPECT_EQ(DrawTextureCenter(canvas.get(), nullptr, skin.get(), nullptr, 0, 255), 1);
+    EXPECT_EQ(DrawTextureUniform(canvas.get(), &dst, skin.get(), nullptr, 0, 255, true), 1);
+    EXPECT_EQ(DrawTextureTile(canvas.get(), nullptr, skin.get(), nullptr, 0, 255, 0, 1), 0);
+    EXPECT_EQ(DrawTextureTopTile(canvas.get(), &dst, skin.get(), nullptr, nullptr, 0, 255), 0);
+    EXPECT_EQ(DrawTexture9Grid(canvas.get(), &dst, skin.get(), nullptr, nullptr, 0, 0, 255, 0, 1, 1), 1);
+}
