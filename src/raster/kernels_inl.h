@@ -8,6 +8,7 @@
 #include <concepts>
 #include <type_traits>
 
+#include "pixel/spans_inl.h"
 #include "raster/kernel_set.h"
 #include "raster/ops/channels.h"
 #include "raster/ops/compose.h"
@@ -21,37 +22,6 @@
 
 namespace zorvic {
 namespace {
-
-template <Form V>
-V Samples(const std::uint32_t* samples, int i) {
-    return V::Load(samples + i);
-}
-
-template <Form V>
-V Samples(SolidColor solid, int) {
-    return V::Broadcast(solid.color);
-}
-
-// Applies the operation to n pixels. The last ones go through the same operation on a padded vector.
-template <Form V, class Op, class Source>
-void ApplySpan(const Op& op, std::uint32_t* dst, Source src, int n) {
-    int i = 0;
-    for (; i + V::lanes <= n; i += V::lanes) op(V::Load(dst + i), Samples<V>(src, i)).Store(dst + i);
-    if constexpr (V::lanes > 1) {
-        if (i == n) return;
-        std::uint32_t padded[V::lanes] = {}, samples[V::lanes] = {};
-        for (int k = 0; k < n - i; ++k) {
-            padded[k] = dst[i + k];
-            if constexpr (std::is_pointer_v<Source>) samples[k] = src[i + k];
-        }
-        if constexpr (std::is_pointer_v<Source>) {
-            op(V::Load(padded), V::Load(samples)).Store(padded);
-        } else {
-            op(V::Load(padded), Samples<V>(src, 0)).Store(padded);
-        }
-        for (int k = 0; k < n - i; ++k) dst[i + k] = padded[k];
-    }
-}
 
 // The only loop over pixels. Sources that prepare columns are walked in blocks of one chunk, so that what they prepare
 // fits the stack and serves every row; others row by row.

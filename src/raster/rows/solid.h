@@ -1,15 +1,10 @@
 // One colour for every pixel.
 #pragma once
 
-#include "raster/forms/form.h"
+#include "pixel/spans_inl.h"
 
 namespace zorvic {
 namespace {
-
-// Samples that need no memory.
-struct SolidColor {
-    std::uint32_t color;
-};
 
 class SolidRows {
 public:

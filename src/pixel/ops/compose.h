@@ -1,0 +1,39 @@
+// Compositions of a sample with what is there that kernels and primitives have in common. Colors are premultiplied; a
+// byte is scaled by k / 256 and truncated. Source-over: T. Porter, T. Duff, "Compositing digital images", 1984.
+#pragma once
+
+#include "pixel/forms/form.h"
+
+namespace zorvic {
+namespace {
+
+struct Copy {
+    template <PixelForm V>
+    V operator()(V, V src) const {
+        return src;
+    }
+};
+
+struct SourceOver {
+    template <PixelForm V>
+    V operator()(V dst, V src) const {
+        return src + Scale(dst, InverseAlpha(src));
+    }
+};
+
+// Source-over of the sample at an opacity; 255 leaves the sample as it is.
+class ConstantAlpha {
+public:
+    explicit ConstantAlpha(std::uint8_t alpha) : factor(alpha + 1) {}
+
+    template <PixelForm V>
+    V operator()(V dst, V src) const {
+        return SourceOver{}(dst, Scale(src, V::Uniform(factor)));
+    }
+
+private:
+    int factor;
+};
+
+}  // namespace
+}  // namespace zorvic

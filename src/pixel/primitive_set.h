@@ -1,0 +1,43 @@
+// The primitives in one form, and the choice of the form that this process uses.
+#pragma once
+
+#include "pixel/primitives.h"
+
+namespace zorvic {
+
+// Pointers and sizes are valid.
+struct PrimitiveSet {
+    void (*set)(TargetPixels dst, SIZE size, std::uint32_t color);
+    void (*setColors)(TargetPixels dst, SIZE size, std::uint32_t color);
+    void (*blend)(SourcePixels src, TargetPixels dst, SIZE size);
+    void (*compose)(SourcePixels src, TargetPixels dst, SIZE size);
+    void (*composeAlpha)(SourcePixels src, TargetPixels dst, SIZE size, std::uint8_t opacity);
+    void (*composeColor)(TargetPixels dst, SIZE size, std::uint32_t color);
+    void (*bitOr)(SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t value);
+    void (*bitAnd)(SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t value);
+    void (*copyReversed)(const void* src, void* dst, int n);  // n pixels
+    void (*exchange)(void* a, void* b, int n);
+    void (*exchangeReversed)(void* a, void* b, int n);  // a[i] with b[n - 1 - i]
+};
+
+extern const PrimitiveSet genericPrimitives, sse2Primitives, avx2Primitives;
+
+enum class Level : int { unresolved = -1, generic, sse2, avx2 };
+
+// The processor as detection sees it; tests put another one in its place.
+struct LevelProbe {
+    void (*cpuid)(int registers[4], int leaf);  // eax, ebx, ecx, edx; subleaf 0
+    std::uint64_t (*enabledState)();            // XCR0: the registers that the operating system saves
+};
+extern const LevelProbe thisProcessorsLevel;
+
+// The widest form that processor and operating system have.
+Level BestLevel(const LevelProbe& probe = thisProcessorsLevel);
+
+// The level in use, resolved on the first call.
+Level CurrentLevel();
+
+// For tests: uses no form wider than this one. Returns the level in use from now on.
+Level LimitLevel(Level widest);
+
+}  // namespace zorvic

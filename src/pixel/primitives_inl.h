@@ -1,0 +1,127 @@
+// Every primitive once, for any form. Only the files that instantiate a form include this; see pixel/forms/form.h.
+#pragma once
+
+#include "pixel/forms/baseline.h"
+#include "pixel/ops/compose.h"
+#include "pixel/primitive_set.h"
+#include "pixel/spans_inl.h"
+
+namespace zorvic {
+namespace {
+
+struct KeepAlpha {
+    template <PixelForm V>
+    V operator()(V dst, V src) const {
+        return WithAlphaOf(src, dst);
+    }
+};
+
+struct RoundedOver {
+    template <PixelForm V>
+    V operator()(V dst, V src) const {
+        return AddSaturated(src, ScaleRounded(dst, AlphaWeight(InvertBytes(src))));
+    }
+};
+
+struct OrValue {
+    std::uint32_t value;
+    template <PixelForm V>
+    V operator()(V, V src) const {
+        return src | V::Broadcast(value);
+    }
+};
+
+struct AndValue {
+    std::uint32_t value;
+    template <PixelForm V>
+    V operator()(V, V src) const {
+        return src & V::Broadcast(value);
+    }
+};
+
+inline std::uint32_t* Words(void* row) { return static_cast<std::uint32_t*>(row); }
+inline const std::uint32_t* Words(const void* row) { return static_cast<const std::uint32_t*>(row); }
+
+// Packed rows are one long row.
+inline bool IsPacked(std::ptrdiff_t step, SIZE size) { return step == 4 * static_cast<std::int64_t>(size.cx); }
+inline SIZE AsOneRow(SIZE size) {
+    const std::int64_t pixels = static_cast<std::int64_t>(size.cx) * size.cy;
+    return pixels > INT32_MAX ? size : SIZE{static_cast<LONG>(pixels), 1};
+}
+
+template <PixelForm V, class Op>
+void RunOnImage(SourcePixels src, TargetPixels dst, SIZE size, const Op& op) {
+    if (IsPacked(src.step, size) && IsPacked(dst.step, size)) size = AsOneRow(size);
+    const auto* from = static_cast<const std::byte*>(src.first);
+    auto* to = static_cast<std::byte*>(dst.first);
+    for (int y = 0; y < size.cy; ++y, from += src.step, to += dst.step) {
+        // A vector must not read pixels that an earlier lane of it is about to write.
+        const auto ahead = reinterpret_cast<std::uintptr_t>(to) - reinterpret_cast<std::uintptr_t>(from);
+        if (ahead - 1 < sizeof(V) - 1) {
+            ApplySpan<Baseline>(op, Words(to), Words(from), size.cx);
+        } else {
+            ApplySpan<V>(op, Words(to), Words(from), size.cx);
+        }
+    }
+}
+
+template <PixelForm V, class Op>
+void RunOnImage(SolidColor color, TargetPixels dst, SIZE size, const Op& op) {
+    if (IsPacked(dst.step, size)) size = AsOneRow(size);
+    auto* to = static_cast<std::byte*>(dst.first);
+    for (int y = 0; y < size.cy; ++y, to += dst.step) ApplySpan<V>(op, Words(to), color, size.cx);
+}
+
+// What remains behind the last whole vector is mirrored by the same function in vectors of one pixel.
+template <PixelForm V>
+void CopyReversed(const std::uint32_t* src, std::uint32_t* dst, int n) {
+    for (; n >= V::lanes; n -= V::lanes, src += V::lanes) Reversed(V::Load(src)).Store(dst + n - V::lanes);
+    if constexpr (V::lanes > 1) CopyReversed<Baseline>(src, dst, n);
+}
+
+template <PixelForm V>
+void Exchange(std::uint32_t* a, std::uint32_t* b, int n) {
+    for (; n >= V::lanes; n -= V::lanes, a += V::lanes, b += V::lanes) {
+        const V ofA = V::Load(a), ofB = V::Load(b);
+        ofB.Store(a);
+        ofA.Store(b);
+    }
+    if constexpr (V::lanes > 1) Exchange<Baseline>(a, b, n);
+}
+
+template <PixelForm V>
+void ExchangeReversed(std::uint32_t* a, std::uint32_t* b, int n) {
+    for (; n >= V::lanes; n -= V::lanes, a += V::lanes) {
+        std::uint32_t* const mirrored = b + n - V::lanes;
+        const V ofA = V::Load(a), ofB = V::Load(mirrored);
+        Reversed(ofB).Store(a);
+        Reversed(ofA).Store(mirrored);
+    }
+    if constexpr (V::lanes > 1) ExchangeReversed<Baseline>(a, b, n);
+}
+
+template <PixelForm V>
+consteval PrimitiveSet MakePrimitives() {
+    return {
+        .set = [](TargetPixels dst, SIZE size,
+                  std::uint32_t color) { RunOnImage<V>(SolidColor{color}, dst, size, Copy{}); },
+        .setColors = [](TargetPixels dst, SIZE size,
+                        std::uint32_t color) { RunOnImage<V>(SolidColor{color}, dst, size, KeepAlpha{}); },
+        .blend = [](SourcePixels src, TargetPixels dst, SIZE size) { RunOnImage<V>(src, dst, size, RoundedOver{}); },
+        .compose = [](SourcePixels src, TargetPixels dst, SIZE size) { RunOnImage<V>(src, dst, size, SourceOver{}); },
+        .composeAlpha = [](SourcePixels src, TargetPixels dst, SIZE size,
+                           std::uint8_t opacity) { RunOnImage<V>(src, dst, size, ConstantAlpha(opacity)); },
+        .composeColor = [](TargetPixels dst, SIZE size,
+                           std::uint32_t color) { RunOnImage<V>(SolidColor{color}, dst, size, SourceOver{}); },
+        .bitOr = [](SourcePixels src, TargetPixels dst, SIZE size,
+                    std::uint32_t value) { RunOnImage<V>(src, dst, size, OrValue{value}); },
+        .bitAnd = [](SourcePixels src, TargetPixels dst, SIZE size,
+                     std::uint32_t value) { RunOnImage<V>(src, dst, size, AndValue{value}); },
+        .copyReversed = [](const void* src, void* dst, int n) { CopyReversed<V>(Words(src), Words(dst), n); },
+        .exchange = [](void* a, void* b, int n) { Exchange<V>(Words(a), Words(b), n); },
+        .exchangeReversed = [](void* a, void* b, int n) { ExchangeReversed<V>(Words(a), Words(b), n); },
+    };
+}
+
+}  // namespace
+}  // namespace zorvic

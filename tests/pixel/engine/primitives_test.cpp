@@ -1,0 +1,259 @@
+// Every primitive in every form against one pixel and one byte at a time: all widths to 70 and some large ones, rows at
+// odd distances and addresses, guard bytes, an inaccessible page behind the last row, and images that overlap.
+#include "pixel/primitive_set.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "support/image.h"
+
+namespace zorvic {
+namespace {
+
+SourcePixels SourceOf(const Image& image) { return {image.Info().bmBits, image.Info().bmWidthBytes}; }
+TargetPixels TargetOf(const Image& image) { return {image.Info().bmBits, image.Info().bmWidthBytes}; }
+SIZE SizeOf(const Image& image) { return {image.Info().bmWidth, image.Info().bmHeight}; }
+
+template <class Function>
+std::uint32_t EachByte(Function f) {
+    std::uint32_t pixel = 0;
+    for (int shift = 0; shift < 32; shift += 8) pixel |= f(shift) << shift;
+    return pixel;
+}
+std::uint32_t Byte(std::uint32_t pixel, int shift) { return pixel >> shift & 255; }
+
+std::uint32_t Truncated(std::uint32_t d, std::uint32_t s) {
+    return s + EachByte([&](int shift) { return Byte(d, shift) * (256 - (s >> 24)) / 256; });
+}
+
+// What a primitive does to a pixel d, given the source's pixel and a value: a color or an opacity.
+struct Case {
+    const char* name;
+    Status (*run)(SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t value);
+    std::uint32_t (*model)(std::uint32_t d, std::uint32_t s, std::uint32_t value);
+};
+const Case cases[] = {
+    {"copy", [](SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t) { return CopyPixels(src, dst, size, 4); },
+     [](std::uint32_t, std::uint32_t s, std::uint32_t) { return s; }},
+    {"set", [](SourcePixels, TargetPixels dst, SIZE size, std::uint32_t value) { return SetPixels(dst, size, value); },
+     [](std::uint32_t, std::uint32_t, std::uint32_t value) { return value; }},
+    {"set colors",
+     [](SourcePixels, TargetPixels dst, SIZE size, std::uint32_t value) { return SetPixelColors(dst, size, value); },
+     [](std::uint32_t d, std::uint32_t, std::uint32_t value) { return d >> 24 << 24 | (value & 0xFFFFFF); }},
+    {"blend", [](SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t) { return BlendPixels(src, dst, size); },
+     [](std::uint32_t d, std::uint32_t s, std::uint32_t) {
+         return EachByte([&](int shift) {
+             const std::uint32_t rest = (2 * Byte(d, shift) * (255 - (s >> 24)) + 255) / 510;  // half rounds up
+             return std::min(Byte(s, shift) + rest, 255U);
+         });
+     }},
+    {"compose",
+     [](SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t) { return ComposePixels(src, dst, size); },
+     [](std::uint32_t d, std::uint32_t s, std::uint32_t) { return Truncated(d, s); }},
+    {"compose at an opacity",
+     [](SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t value) {
+         return ComposePixels(src, dst, size, static_cast<std::uint8_t>(value));
+     },
+     [](std::uint32_t d, std::uint32_t s, std::uint32_t value) {
+         return Truncated(d, EachByte([&](int shift) { return Byte(s, shift) * ((value & 255) + 1) / 256; }));
+     }},
+    {"compose a color",
+     [](SourcePixels, TargetPixels dst, SIZE size, std::uint32_t value) { return ComposeColor(value, dst, size); },
+     [](std::uint32_t d, std::uint32_t, std::uint32_t value) { return Truncated(d, value); }},
+    {"or", OrPixels, [](std::uint32_t, std::uint32_t s, std::uint32_t value) { return s | value; }},
+    {"and", AndPixels, [](std::uint32_t, std::uint32_t s, std::uint32_t value) { return s & value; }},
+};
+
+class Primitives : public testing::TestWithParam<Level> {
+protected:
+    void SetUp() override {
+        if (LimitLevel(GetParam()) != GetParam()) GTEST_SKIP() << "this processor has no such form";
+    }
+    ~Primitives() override { LimitLevel(Level::avx2); }
+};
+
+Margins RandomMargins(Random& random) {
+    return {random.Below(2) * random.Below(9), random.Below(2) * random.Below(40)};
+}
+
+std::vector<int> Widths() {
+    std::vector<int> widths{127, 255, 256, 257, 1000};
+    for (int width = 1; width <= 70; ++width) widths.push_back(width);
+    return widths;
+}
+
+TEST_P(Primitives, DoWhatTheModelDoes) {
+    Random random(1);
+    for (const Case& c : cases)
+        for (const int width : Widths()) {
+            Image dst(random, width, 1 + random.Below(4), 32, RandomMargins(random));
+            const Image src(random, width, dst.Info().bmHeight, 32, RandomMargins(random));
+            const std::uint32_t value = random.Pixel();
+            Image wanted = dst;
+            wanted.Fill([&](int x, int y) { return c.model(dst.At(x, y), src.At(x, y), value); });
+            ASSERT_EQ(c.run(SourceOf(src), TargetOf(dst), SizeOf(dst), value), Status::success);
+            ASSERT_TRUE(SameBytes(dst, wanted)) << c.name << ", value " << std::hex << value;
+        }
+}
+
+// Column x has the byte x in each channel of the target, row y in the source, turned from channel to channel.
+TEST_P(Primitives, ComposeEveryPairOfBytes) {
+    for (const Case& c : cases) {
+        Image dst(256, 256), src(256, 256);
+        dst.Fill([](int x, int) { return static_cast<std::uint32_t>(x) * 0x01010101U ^ 0x80330F00U; });
+        src.Fill([](int, int y) { return static_cast<std::uint32_t>(y) * 0x01010101U ^ 0x00C0FF11U; });
+        Image wanted = dst;
+        wanted.Fill([&](int x, int y) { return c.model(dst.At(x, y), src.At(x, y), 0x80402010); });
+        c.run(SourceOf(src), TargetOf(dst), SizeOf(dst), 0x80402010);
+        ASSERT_TRUE(SameBytes(dst, wanted)) << c.name;
+    }
+}
+
+TEST_P(Primitives, GoPixelByPixelWhereImagesOverlap) {
+    constexpr int width = 21, height = 3, step = 4 * width + 3;
+    Random random(2);
+    for (const Case& c : cases) {
+        if (c.run == cases[0].run) continue;  // copies move
+        for (int distance = -40; distance <= 40; ++distance) {
+            std::vector<std::byte> got(height * step + 80);
+            for (std::byte& byte : got) byte = static_cast<std::byte>(random.Word());
+            std::vector<std::byte> wanted = got;
+            for (int y = 0; y < height; ++y)
+                for (int x = 0; x < width; ++x) {
+                    std::byte* const to = wanted.data() + 40 + distance + y * step + 4 * x;
+                    std::uint32_t d, s;
+                    std::memcpy(&d, to, 4);
+                    std::memcpy(&s, to - distance, 4);
+                    d = c.model(d, s, 0x11335577);
+                    std::memcpy(to, &d, 4);
+                }
+            c.run({got.data() + 40, step}, {got.data() + 40 + distance, step}, {width, height}, 0x11335577);
+            ASSERT_TRUE(got == wanted) << c.name << ", target " << distance << " bytes behind the source";
+        }
+    }
+}
+
+TEST_P(Primitives, Mirror) {
+    Random random(3);
+    for (const int width : Widths())
+        for (int axis = 0; axis < 3; ++axis) {
+            const Image src(random, width, 1 + random.Below(5), 32, RandomMargins(random));
+            Image dst(random, width, src.Info().bmHeight, 32, RandomMargins(random));
+            const int right = width - 1, bottom = src.Info().bmHeight - 1;
+            const auto mirrored = [&](int x, int y) {
+                return src.At(axis == 0 ? x : right - x, axis == 1 ? y : bottom - y);
+            };
+            Image wanted = dst, inPlace = src, wantedInPlace = src;
+            wanted.Fill(mirrored);
+            wantedInPlace.Fill(mirrored);
+            ASSERT_EQ(MirrorPixels(SourceOf(src), TargetOf(dst), SizeOf(src), axis), Status::success);
+            ASSERT_TRUE(SameBytes(dst, wanted)) << "axis " << axis;
+            ASSERT_EQ(MirrorPixels(SourceOf(inPlace), TargetOf(inPlace), SizeOf(src), axis), Status::success);
+            ASSERT_TRUE(SameBytes(inPlace, wantedInPlace)) << "in place, axis " << axis;
+        }
+}
+
+TEST_P(Primitives, RunUpwardsWithNegativeSteps) {
+    Random random(4);
+    Image dst(random, 9, 5, 32, {3, 0});
+    const Image src(random, 9, 5);
+    Image wanted = dst;
+    wanted.Fill([&](int x, int y) { return src.At(x, 4 - y) | 0x12345678; });
+    auto* const lastRow = static_cast<std::byte*>(dst.Info().bmBits) + 4 * dst.Info().bmWidthBytes;
+    OrPixels(SourceOf(src), {lastRow, -dst.Info().bmWidthBytes}, {9, 5}, 0x12345678);
+    EXPECT_TRUE(SameBytes(dst, wanted));
+}
+
+constexpr const char* levelNames[] = {"generic", "sse2", "avx2"};
+INSTANTIATE_TEST_SUITE_P(, Primitives, testing::Values(Level::generic, Level::sse2, Level::avx2),
+                         [](const auto& level) { return levelNames[static_cast<int>(level.param)]; });
+
+TEST(PrimitiveCalls, CopiesMoveOverlappingRows) {
+    constexpr int step = 32;
+    for (const int bytesPerPixel : {3, 4})
+        for (const int direction : {1, -1})
+            for (int distance = -70; distance <= 70; ++distance) {
+                std::vector<std::byte> got(step * 5 + 160);
+                for (std::size_t i = 0; i < got.size(); ++i) got[i] = static_cast<std::byte>(i * 7);
+                const std::vector<std::byte> before = got;
+                std::vector<std::byte> wanted = got;
+                const int first = 80 + (direction < 0 ? 4 * step : 0);
+                for (int y = 0; y < 5; ++y)
+                    for (int i = 0; i < 7 * bytesPerPixel; ++i) {
+                        const auto place = static_cast<std::ptrdiff_t>(first + y * direction * step + i);
+                        wanted[static_cast<std::size_t>(place + distance)] = before[static_cast<std::size_t>(place)];
+                    }
+                const SourcePixels src{got.data() + first, direction * step};
+                ASSERT_EQ(CopyPixels(src, {got.data() + first + distance, src.step}, {7, 5}, bytesPerPixel),
+                          Status::success);
+                ASSERT_TRUE(got == wanted) << bytesPerPixel << " bytes, moved by " << distance << ", " << direction;
+            }
+}
+
+TEST(PrimitiveCalls, RefuseNullPointersSizesAndAxes) {
+    Random random(5);
+    Image image(random, 5, 4);
+    const Image before = image;
+    const SourcePixels pixels = SourceOf(image);
+    const TargetPixels target = TargetOf(image);
+    for (const SIZE size : {SIZE{0, 4}, SIZE{5, 0}, SIZE{-5, -4}, SIZE{5, INT32_MIN}}) {
+        for (const Case& c : cases) EXPECT_EQ(c.run(pixels, target, size, 77), Status::badSize) << c.name;
+        EXPECT_EQ(MirrorPixels(pixels, target, size, 9), Status::badSize);
+    }
+    for (const Case& c : cases) EXPECT_EQ(c.run({nullptr, 20}, {nullptr, 20}, {0, 4}, 77), Status::nullPointer);
+    EXPECT_EQ(BlendPixels(pixels, {nullptr, 20}, {5, 4}), Status::nullPointer);
+    EXPECT_EQ(BlendPixels({nullptr, 20}, target, {5, 4}), Status::nullPointer);
+    EXPECT_EQ(MirrorPixels({nullptr, 20}, target, {5, 4}, 9), Status::nullPointer);
+    for (const int axis : {-1, 3, INT32_MAX}) EXPECT_EQ(MirrorPixels(pixels, target, {5, 4}, axis), Status::badAxis);
+    EXPECT_TRUE(SameBytes(image, before));
+    // Hosts of other languages know these as numbers.
+    EXPECT_EQ(static_cast<int>(Status::badSize), -6);
+    EXPECT_EQ(static_cast<int>(Status::nullPointer), -8);
+    EXPECT_EQ(static_cast<int>(Status::badAxis), -22);
+}
+
+// A processor that does not exist.
+struct Processor {
+    int largestLeaf;
+    unsigned leaf1Ecx, leaf1Edx, leaf7Ebx;
+    std::uint64_t enabledState;
+} processor;
+bool xgetbvRan;
+
+Level LevelOf(const Processor& made) {
+    processor = made;
+    xgetbvRan = false;
+    const LevelProbe probe{[](int registers[4], int leaf) {
+                               const Processor& p = processor;
+                               registers[0] = leaf == 0 ? p.largestLeaf : 0;
+                               registers[1] = leaf == 7 ? static_cast<int>(p.leaf7Ebx) : 0;
+                               registers[2] = leaf == 1 ? static_cast<int>(p.leaf1Ecx) : 0;
+                               registers[3] = leaf == 1 ? static_cast<int>(p.leaf1Edx) : 0;
+                           },
+                           [] { return xgetbvRan = true, processor.enabledState; }};
+    return BestLevel(probe);
+}
+
+TEST(PrimitiveLevel, NeedsProcessorAndOperatingSystem) {
+    constexpr unsigned sse2 = 1U << 26, osxsave = 1U << 27, avx = 1U << 28, avx2 = 1U << 5;
+    EXPECT_EQ(LevelOf({7, osxsave | avx, sse2, avx2, 7}), Level::avx2);
+    EXPECT_EQ(LevelOf({7, osxsave | avx, 0, avx2, 7}), Level::generic);
+    EXPECT_EQ(LevelOf({7, osxsave | avx, sse2, ~avx2, 7}), Level::sse2);
+    EXPECT_EQ(LevelOf({6, osxsave | avx, sse2, avx2, 7}), Level::sse2) << "there is no leaf 7";
+    EXPECT_EQ(LevelOf({7, osxsave, sse2, avx2, 7}), Level::sse2);
+    for (const std::uint64_t state : {0U, 1U, 2U, 3U, 4U, 5U})
+        EXPECT_EQ(LevelOf({7, osxsave | avx, sse2, avx2, state}), Level::sse2) << "registers are not saved";
+    EXPECT_EQ(LevelOf({7, avx, sse2, avx2, 7}), Level::sse2);
+    EXPECT_FALSE(xgetbvRan) << "XGETBV faults where the system has not switched it on";
+}
+
+TEST(PrimitiveLevel, IsThatOfThisProcessorUnlessLimited) {
+    EXPECT_EQ(InitPrimitives(), Status::success);
+    EXPECT_EQ(CurrentLevel(), BestLevel());
+    EXPECT_EQ(LimitLevel(Level::generic), Level::generic);
+    EXPECT_EQ(CurrentLevel(), Level::generic);
+    EXPECT_EQ(LimitLevel(Level::avx2), BestLevel());
+}
+
+}  // namespace
+}  // namespace zorvic
