@@ -1,6 +1,6 @@
-// The routes of a draw. Where Cairo's operator under a partial coverage gives the mix of pixel and composed pixel that
-// the interface promises, Cairo draws straight on the image. Otherwise the composed pixels are made on a copy of the
-// image, with full coverage, and the shape is then drawn with that copy as its source.
+// The routes of a draw. Whole pixels are composed by Cairo's operator under a clip. Partial coverage is left to Cairo
+// where its result is the mix of pixel and composed pixel that the interface promises, and quick. Otherwise the composed
+// pixels are made on a copy of the image, with full coverage, and the shape is then drawn with that copy as its source.
 #include "compose.h"
 
 #include "pixels.h"
@@ -12,8 +12,10 @@ namespace {
 enum class Route {
     direct,   // coverage and opacity may scale the source
     replace,  // direct at full opacity
-    erase,    // destination-out with an opaque source: Cairo's own clear operator paints strokes with the source
-    copy      // acts where the source is transparent, or is wrong in pixman under partial coverage
+    erase,    // Cairo's own clear operator paints strokes with the source: a transparent source replaces instead, or
+              // below full opacity an opaque one takes away
+    copy,     // as direct, but slower in pixman than the copy, or wrong (the last four) under partial coverage
+    copyAll   // changes pixels where the source is transparent: coverage and opacity mix afterwards
 };
 
 struct Operator {
@@ -25,27 +27,27 @@ struct Operator {
 constexpr Operator operators[] = {
     {CAIRO_OPERATOR_OVER, Route::direct},
     {CAIRO_OPERATOR_SOURCE, Route::replace},
-    {CAIRO_OPERATOR_DEST_OVER, Route::direct},
-    {CAIRO_OPERATOR_DEST_OUT, Route::erase},
-    {CAIRO_OPERATOR_IN, Route::copy},
-    {CAIRO_OPERATOR_DEST_IN, Route::copy},
-    {CAIRO_OPERATOR_OUT, Route::copy},
-    {CAIRO_OPERATOR_DEST_OUT, Route::direct},
-    {CAIRO_OPERATOR_ATOP, Route::direct},
-    {CAIRO_OPERATOR_DEST_ATOP, Route::copy},
-    {CAIRO_OPERATOR_XOR, Route::direct},
+    {CAIRO_OPERATOR_DEST_OVER, Route::copy},
+    {CAIRO_OPERATOR_CLEAR, Route::erase},
+    {CAIRO_OPERATOR_IN, Route::copyAll},
+    {CAIRO_OPERATOR_DEST_IN, Route::copyAll},
+    {CAIRO_OPERATOR_OUT, Route::copyAll},
+    {CAIRO_OPERATOR_DEST_OUT, Route::copy},
+    {CAIRO_OPERATOR_ATOP, Route::copy},
+    {CAIRO_OPERATOR_DEST_ATOP, Route::copyAll},
+    {CAIRO_OPERATOR_XOR, Route::copy},
     {CAIRO_OPERATOR_ADD, Route::direct},
-    {CAIRO_OPERATOR_MULTIPLY, Route::direct},
-    {CAIRO_OPERATOR_SCREEN, Route::direct},
-    {CAIRO_OPERATOR_OVERLAY, Route::direct},
-    {CAIRO_OPERATOR_DARKEN, Route::direct},
-    {CAIRO_OPERATOR_LIGHTEN, Route::direct},
-    {CAIRO_OPERATOR_COLOR_DODGE, Route::direct},
-    {CAIRO_OPERATOR_COLOR_BURN, Route::direct},
-    {CAIRO_OPERATOR_HARD_LIGHT, Route::direct},
-    {CAIRO_OPERATOR_SOFT_LIGHT, Route::direct},
-    {CAIRO_OPERATOR_DIFFERENCE, Route::direct},
-    {CAIRO_OPERATOR_EXCLUSION, Route::direct},
+    {CAIRO_OPERATOR_MULTIPLY, Route::copy},
+    {CAIRO_OPERATOR_SCREEN, Route::copy},
+    {CAIRO_OPERATOR_OVERLAY, Route::copy},
+    {CAIRO_OPERATOR_DARKEN, Route::copy},
+    {CAIRO_OPERATOR_LIGHTEN, Route::copy},
+    {CAIRO_OPERATOR_COLOR_DODGE, Route::copy},
+    {CAIRO_OPERATOR_COLOR_BURN, Route::copy},
+    {CAIRO_OPERATOR_HARD_LIGHT, Route::copy},
+    {CAIRO_OPERATOR_SOFT_LIGHT, Route::copy},
+    {CAIRO_OPERATOR_DIFFERENCE, Route::copy},
+    {CAIRO_OPERATOR_EXCLUSION, Route::copy},
     {CAIRO_OPERATOR_HSL_HUE, Route::copy},
     {CAIRO_OPERATOR_HSL_SATURATION, Route::copy},
     {CAIRO_OPERATOR_HSL_COLOR, Route::copy},
@@ -54,11 +56,6 @@ constexpr Operator operators[] = {
 static_assert(std::size(operators) == static_cast<std::size_t>(Blend::luminosity) + 1);
 
 const Operator& OperatorOf(Blend blend) { return operators[static_cast<std::size_t>(blend)]; }
-
-bool ChangesWholeClip(Blend blend) {
-    return blend == Blend::sourceIn || blend == Blend::destinationIn || blend == Blend::sourceOut ||
-           blend == Blend::destinationAtop;
-}
 
 Point OriginOf(const Image& image) {
     return {static_cast<double>(image.Place().left), static_cast<double>(image.Place().top)};
@@ -100,7 +97,7 @@ template <class SetSource>
 void DrawFrom(const Drawing& drawing, const Shape& shape, int opacity, bool scales, SetSource set) {
     const Operator& op = OperatorOf(drawing.blend);
     const bool solid = opacity == 255;
-    const bool direct = op.route == Route::replace ? solid : op.route != Route::copy && (scales || solid);
+    const bool direct = op.route == Route::replace ? solid : op.route == Route::direct && (scales || solid);
     if (!direct) ComposeCopy(drawing, shape.Extent(), opacity, [&](Image& copy) { set(copy, 255); });
 
     cairo_t* context = drawing.image.Begin(drawing.clip);
@@ -121,9 +118,13 @@ void DrawFrom(const Drawing& drawing, const Shape& shape, int opacity, bool scal
 void DrawShape(const Drawing& drawing, const Shape& shape, const Ink& ink) {
     const int opacity = static_cast<int>(std::lround(drawing.opacity * shape.Opacity()));
     if (shape.Extent().Empty() || opacity == 0) return;
-    const bool erases = OperatorOf(drawing.blend).route == Route::erase;
-    const Ink& used = erases ? Ink{.color = 0xFF000000} : ink;
-    DrawFrom(drawing, shape, opacity, true, [&](Image& image, int k) { SetInk(image, used, k); });
+    if (OperatorOf(drawing.blend).route == Route::erase) {
+        Drawing erasing = drawing;
+        erasing.blend = opacity == 255 ? Blend::source : Blend::destinationOut;
+        const Ink eraser{.color = opacity == 255 ? 0 : 0xFF000000};
+        return DrawFrom(erasing, shape, opacity, true, [&](Image& image, int k) { SetInk(image, eraser, k); });
+    }
+    DrawFrom(drawing, shape, opacity, true, [&](Image& image, int k) { SetInk(image, ink, k); });
 }
 
 void DrawBox(const Drawing& drawing, Point a, Point b, const Ink& ink) {
@@ -141,6 +142,15 @@ void DrawBox(const Drawing& drawing, Point a, Point b, const Ink& ink) {
     if (whole && !ink.gradient &&
         FillPixels(drawing.image, visible, drawing.blend, Premultiply(ink.color, drawing.opacity), drawing.opacity)) {
         return;
+    }
+    const Operator& op = OperatorOf(drawing.blend);
+    const bool scales = op.route == Route::direct || op.route == Route::copy;
+    if (whole && op.route != Route::erase && (scales || drawing.opacity == 255)) {
+        cairo_t* context = drawing.image.Begin(visible);
+        SetInk(drawing.image, ink, drawing.opacity);
+        cairo_set_operator(context, op.cairo);
+        cairo_paint(context);
+        return drawing.image.End();
     }
     Path path;
     path.AddRectangle(a, b);
@@ -161,7 +171,7 @@ void DrawBitmap(const Drawing& drawing, Image& bitmap, Point position) {
     const Operator& op = OperatorOf(drawing.blend);
     if (op.route == Route::erase) return DrawBox(drawing, position, end, {});
 
-    if (ChangesWholeClip(drawing.blend)) {
+    if (op.route == Route::copyAll) {
         ComposeCopy(drawing, drawing.clip, drawing.opacity, [&](Image& copy) {
             if (visible.Empty()) return copy.SetSolid(0);
             copy.SetPattern(PatternOf(bitmap, position - OriginOf(copy), CAIRO_EXTEND_NONE));
@@ -173,7 +183,7 @@ void DrawBitmap(const Drawing& drawing, Image& bitmap, Point position) {
     const auto setBitmap = [&](Image& image, int) {
         image.SetPattern(PatternOf(bitmap, position - OriginOf(image), CAIRO_EXTEND_PAD));
     };
-    if (whole && (op.route == Route::direct || (op.route == Route::replace && drawing.opacity == 255))) {
+    if (whole && (op.route == Route::direct || drawing.opacity == 255)) {
         cairo_t* context = drawing.image.Begin(visible);
         setBitmap(drawing.image, 255);
         cairo_set_operator(context, op.cairo);

@@ -250,6 +250,28 @@ TEST(Blend, PixelsStayPremultiplied) {
                 }
 }
 
+TEST(Blend, ClearTakesAwayWhatAStrokeCovers) {
+    for (const int smooth : {0, 1})
+        for (const int value : {255, 100}) {
+            Drawing drawn(60, 60), cleared(60, 60, 0xFF000000);
+            vekCanvasSetBlendMode(cleared, VEK_BLEND_CLEAR);
+            for (Drawing* drawing : {&drawn, &cleared}) {
+                vekCanvasSetColor(*drawing, drawing == &drawn ? 0xFF000000 : 0x30FF0000);
+                vekCanvasSetBlendValue(*drawing, value);
+                vekCanvasSetSmooth(*drawing, smooth);
+                vekCanvasSetStrokeWidth(*drawing, 4.5F);
+                vekCanvasDrawLine(*drawing, 5, 8, 55, 13);
+                vekCanvasDrawLine(*drawing, 10, 20, 50, 20);
+                vekCanvasSetDrawStyle(*drawing, VEK_DRAW_STROKE);
+                vekCanvasDrawCircle(*drawing, 30, 40, 12);
+            }
+            for (std::size_t i = 0; i < drawn.words.size(); ++i) {
+                ASSERT_NEAR(Channel(cleared.words[i], 24), 255 - Channel(drawn.words[i], 24), 2) << i << ", " << value;
+                ASSERT_EQ(cleared.words[i] & 0xFFFFFF, 0U);
+            }
+        }
+}
+
 TEST(Blend, ValueZeroChangesNothing) {
     for (int mode = 0; mode < modeCount; ++mode) {
         Drawing drawing(20, 20);
