@@ -15,6 +15,10 @@ DECLARE_HANDLE(HGBITMAP);
 DECLARE_HANDLE(HGTEXTURE);
 /** A canvas: what everything draws on. */
 DECLARE_HANDLE(HGCANVAS);
+/** A path: an outline of one or more figures, drawn by DrawPath. */
+DECLARE_HANDLE(HGPATH);
+/** A gradient: colours along a line or between two circles, chosen by SetGradient. */
+DECLARE_HANDLE(HGGRADIENT);
 
 /** A locked image: the platform's BITMAP, field for field, then its palette.
  *  The pixels belong to the surface; they stay where they are until the surface is deleted or converted. */
@@ -64,6 +68,11 @@ typedef struct TextureDrawParams {
     LONG rounded;         /**< not 0: rounding even with radii of 0 */
     BYTE reserved3[4];    /**< 0 */
 } TextureDrawParams;
+
+/** The extent of a path. */
+typedef struct PathBounds {
+    float left, top, right, bottom;
+} PathBounds;
 
 #ifdef __cplusplus
 static_assert(offsetof(BitmapLockInfo, bmBits) == offsetof(BITMAP, bmBits), "starts like a BITMAP");

@@ -514,6 +514,218 @@ ZORVIC_API int ZORVIC_CALL FillSolidRectEx(HGCANVAS canvas, DWORD color, const R
 /** FillSolidRectEx with a colour that is premultiplied already. */
 ZORVIC_API int ZORVIC_CALL FillPreMulColorRectEx(HGCANVAS canvas, DWORD color, const RECT* rect, DWORD mode);
 
+/** Fills a rectangle through the vector backend: by the canvas's blend mode, blend value and smoothing.
+ *  \param rect   logical pixels
+ *  \param color  straight ARGB
+ *  \return 1; 0 for NULL or a canvas without a surface */
+ZORVIC_API int ZORVIC_CALL FillRectangleEx(HGCANVAS canvas, const RECT* rect, DWORD color);
+
+/** FillRectangleEx with rounded corners. \param corner x and y radius in pixels */
+ZORVIC_API int ZORVIC_CALL FillRoundRectEx(HGCANVAS canvas, const RECT* rect, const POINT* corner, DWORD color);
+
+/** Fills a rectangle with a gradient between two colours.
+ *  \param colorFrom,colorTo  straight ARGB; when they are equal once premultiplied, this is FillSolidRect
+ *  \param rect               logical pixels
+ *  \param direction          1 top to bottom, 2 left to right; any other value is FillSolidRect with colorFrom
+ *  \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL FillGradualRect(HGCANVAS canvas, DWORD colorFrom, DWORD colorTo, const RECT* rect,
+                                           DWORD direction);
+
+/* ------------------------------------------------------------------------------------------------ vector drawing */
+
+/* Anti-aliased shapes, drawn by the vector backend (vekgraphic.dll) on canvases that have a surface. Coordinates are
+ * floats in logical pixels, x right, y down; pixel (i, j) covers [i, i + 1) x [j, j + 1). Clip and origins apply. Every
+ * shape returns 1, even if nothing was visible, and 0 for NULL, a canvas without a surface or numbers that are not
+ * finite. Style belongs to the canvas and stays until it is changed or undone by Restore. */
+
+/** Draw styles. */
+enum {
+    ZORVIC_DRAW_FILL = 0,    /**< inside, by the non-zero rule */
+    ZORVIC_DRAW_STROKE = 1,  /**< along the outline */
+    ZORVIC_DRAW_GRADIENT = 2 /**< inside, with the gradient; with the colour when none is set */
+};
+
+/** Paints the pixel square at (x, y) with the colour, whatever the draw style. */
+ZORVIC_API int ZORVIC_CALL DrawPoint(HGCANVAS canvas, float x, float y);
+
+/** Strokes a line, whatever the draw style. */
+ZORVIC_API int ZORVIC_CALL DrawLine(HGCANVAS canvas, float x1, float y1, float x2, float y2);
+
+/** Draws a rectangle. */
+ZORVIC_API int ZORVIC_CALL DrawRectangle(HGCANVAS canvas, float x, float y, float width, float height);
+
+/** Draws a rectangle with rounded corners of radii rx and ry, which are limited to half the width and height. */
+ZORVIC_API int ZORVIC_CALL DrawRoundRect(HGCANVAS canvas, const RECT* rect, float rx, float ry);
+
+/** Draws a circle. */
+ZORVIC_API int ZORVIC_CALL DrawCircle(HGCANVAS canvas, float cx, float cy, float radius);
+
+/** Draws the ellipse inscribed in a box. */
+ZORVIC_API int ZORVIC_CALL DrawEllipse(HGCANVAS canvas, float x, float y, float width, float height);
+
+/** Draws a closed polygon.
+ *  \param points  count points in logical pixels; the first is read even when count is 0 */
+ZORVIC_API int ZORVIC_CALL DrawPolygon(HGCANVAS canvas, unsigned int count, const POINT* points);
+
+/** Draws a cubic Bezier curve from p0 to p3, open, with the control points p1 and p2. */
+ZORVIC_API int ZORVIC_CALL DrawBezier(HGCANVAS canvas, const POINT* p0, const POINT* p1, const POINT* p2,
+                                      const POINT* p3);
+
+/** Fills a rectangle with a colour (straight ARGB) by the blend mode and value, whatever colour and style are set. */
+ZORVIC_API int ZORVIC_CALL DrawColor(HGCANVAS canvas, DWORD color, const RECT* rect);
+
+/** Draws a path. */
+ZORVIC_API int ZORVIC_CALL DrawPath(HGCANVAS canvas, HGPATH path);
+
+/** Saves the style, for the matching Restore. */
+ZORVIC_API void ZORVIC_CALL Save(HGCANVAS canvas);
+
+/** Goes back to the style of the latest Save. */
+ZORVIC_API void ZORVIC_CALL Restore(HGCANVAS canvas);
+
+/** One of ZORVIC_DRAW_FILL..GRADIENT. At first FILL. */
+ZORVIC_API void ZORVIC_CALL SetDrawStyle(HGCANVAS canvas, int style);
+
+/** Colour of fills and strokes, straight ARGB. At first 0xFF000000. */
+ZORVIC_API void ZORVIC_CALL SetColor(HGCANVAS canvas, DWORD color);
+
+/** 0 turns anti-aliasing off. At first on. */
+ZORVIC_API void ZORVIC_CALL SetSmooth(HGCANVAS canvas, int smooth);
+
+/** How shapes meet the pixels: 0 source-over, 1 source, 2 destination-over, 3 clear, 4 source-in, 5 destination-in,
+ *  6 source-out, 7 destination-out, 8 source-atop, 9 destination-atop, 10 xor, 11 plus, 12 multiply, 13 screen,
+ *  14 overlay, 15 darken, 16 lighten, 17 colour-dodge, 18 colour-burn, 19 hard-light, 20 soft-light, 21 difference,
+ *  22 exclusion, 23 hue, 24 saturation, 25 colour, 26 luminosity; other values change nothing. At first 0. */
+ZORVIC_API void ZORVIC_CALL SetBlendMode(HGCANVAS canvas, int mode);
+
+/** \return the blend mode; -1 for NULL or a canvas without a surface */
+ZORVIC_API int ZORVIC_CALL GetBlendMode(HGCANVAS canvas);
+
+/** Opacity 0..255 of every shape. At first 255. */
+ZORVIC_API void ZORVIC_CALL SetBlendValue(HGCANVAS canvas, int value);
+
+/** \return the opacity; 255 for NULL or a canvas without a surface */
+ZORVIC_API int ZORVIC_CALL GetBlendValue(HGCANVAS canvas);
+
+/** How strokes end: 0 butt, 1 round, 2 square. At first 0. */
+ZORVIC_API void ZORVIC_CALL SetStrokeCap(HGCANVAS canvas, int cap);
+
+/** How strokes turn corners: 0 miter (limit 10), 1 round, 2 bevel. At first 0. */
+ZORVIC_API void ZORVIC_CALL SetStrokeJoin(HGCANVAS canvas, int join);
+
+/** The gradient of ZORVIC_DRAW_GRADIENT; NULL, none. The canvas keeps what it needs: it may be destroyed at once. */
+ZORVIC_API void ZORVIC_CALL SetGradient(HGCANVAS canvas, HGGRADIENT gradient);
+
+/** Width of strokes in pixels, above 0; other values change nothing. At first 1. */
+ZORVIC_API void ZORVIC_CALL SetStrokeWidth(HGCANVAS canvas, float width);
+
+/** \return the width of strokes; 1 for NULL or a canvas without a surface */
+ZORVIC_API float ZORVIC_CALL GetStrokeWidth(HGCANVAS canvas);
+
+/** Dashes: 0 solid, 1 dash, 2 dot, 3 dash-dot, 4 dash-dot-dot; a dash is 3 stroke widths long, dots and gaps 1. The
+ *  later of a dash style and a dash pattern counts. At first 0. */
+ZORVIC_API void ZORVIC_CALL SetDashStyle(HGCANVAS canvas, BYTE style);
+
+/** Dashes of the host's own.
+ *  \param pattern  count lengths in pixels, on and off by turns; NULL or 0 of them is solid. A pattern with a negative
+ *                  length, or of zeros only, changes nothing */
+ZORVIC_API void ZORVIC_CALL SetDashPattern(HGCANVAS canvas, const float* pattern, BYTE count);
+
+/* ------------------------------------------------------------------------------------------- paths and gradients */
+
+/* They belong to no canvas; coordinates are those of the canvas at drawing time. Building returns 1, and 0 for NULL or
+ * numbers that are not finite. */
+
+/** \return an empty path to be ended with PathDestroy; NULL when memory is short */
+ZORVIC_API HGPATH ZORVIC_CALL PathCreate(void);
+
+/** Ends a path. NULL is ignored. */
+ZORVIC_API void ZORVIC_CALL PathDestroy(HGPATH path);
+
+/** Starts a new figure: what was built stays, the current point is forgotten. */
+ZORVIC_API int ZORVIC_CALL PathBegin(HGPATH path);
+
+/** Closes the current figure. */
+ZORVIC_API int ZORVIC_CALL PathClose(HGPATH path);
+
+/** Starts a new figure at a point. */
+ZORVIC_API int ZORVIC_CALL PathMoveTo(HGPATH path, float x, float y);
+
+/** Adds a line. Like the curves it starts a figure where there is no current point. */
+ZORVIC_API int ZORVIC_CALL PathLineTo(HGPATH path, float x, float y);
+
+/** Adds a line to, and the arc of a circle that touches, the lines from the current point to (x1, y1) and from there to
+ *  (x2, y2). */
+ZORVIC_API int ZORVIC_CALL PathArcTo(HGPATH path, float x1, float y1, float x2, float y2, float radius);
+
+/** Adds a cubic Bezier curve with the control points c1 and c2. */
+ZORVIC_API int ZORVIC_CALL PathBezierCurveTo(HGPATH path, float c1x, float c1y, float c2x, float c2y, float x, float y);
+
+/** Adds a quadratic Bezier curve with the control point c. */
+ZORVIC_API int ZORVIC_CALL PathQuadraticCurveTo(HGPATH path, float cx, float cy, float x, float y);
+
+/** Adds the arc of a circle, joined to the current point by a line.
+ *  \param startAngle,endAngle  radians from the positive x axis, y down
+ *  \param anticlockwise        0: by growing angles */
+ZORVIC_API int ZORVIC_CALL PathAddArc(HGPATH path, float cx, float cy, float radius, float startAngle, float endAngle,
+                                      int anticlockwise);
+
+/** Adds a closed rectangle. */
+ZORVIC_API int ZORVIC_CALL PathAddRectangle(HGPATH path, float x, float y, float width, float height);
+
+/** Adds a circle. */
+ZORVIC_API int ZORVIC_CALL PathAddCircle(HGPATH path, float cx, float cy, float radius);
+
+/** Adds the ellipse inscribed in a box. */
+ZORVIC_API int ZORVIC_CALL PathAddEllipse(HGPATH path, float x, float y, float width, float height);
+
+/** Writes the exact extent of the outline, without a stroke's width; zeros for an empty path. \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL PathGetBounds(HGPATH path, PathBounds* bounds);
+
+/** A gradient along the line from (x1, y1), offset 0, to (x2, y2), offset 1. Colours beyond the ends repeat.
+ *  \return a gradient to be ended with GradientDestroy; NULL for numbers that are not finite or when memory is short */
+ZORVIC_API HGGRADIENT ZORVIC_CALL GradientCreateLinear(float x1, float y1, float x2, float y2);
+
+/** A gradient over the family of circles from the first, offset 0, to the second, offset 1. */
+ZORVIC_API HGGRADIENT ZORVIC_CALL GradientCreateRadial(float x0, float y0, float r0, float x1, float y1, float r1);
+
+/** Adds a colour (straight ARGB) at an offset, which is clamped to 0..1. */
+ZORVIC_API int ZORVIC_CALL GradientAddColorStop(HGGRADIENT gradient, float offset, DWORD color);
+
+/** Ends a gradient. NULL is ignored. */
+ZORVIC_API void ZORVIC_CALL GradientDestroy(HGGRADIENT gradient);
+
+/* ------------------------------------------------------------------------------------------------------ outlines */
+
+/** Outlines a rectangle. On a canvas with ZORVIC_OP_SOURCE_OVER the library draws one opaque pixel in the pen's colour,
+ *  so that alpha survives; otherwise GDI draws with pen and brush.
+ *  \param rect   logical pixels
+ *  \param pen    NULL, black
+ *  \param brush  NULL, the inside stays
+ *  \return 1; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GeoRectangle(HGCANVAS canvas, const RECT* rect, HPEN pen, HBRUSH brush);
+
+/** Strokes a rectangle, not smoothed; the stroke's middle runs through the last pixels inside.
+ *  \param color  straight ARGB
+ *  \param width  pixels
+ *  \return 1; 0 for NULL or a canvas without a surface */
+ZORVIC_API int ZORVIC_CALL GeoRectangleEx(HGCANVAS canvas, const RECT* rect, DWORD color, int width);
+
+/** Draws a rectangle with rounded corners in a GDI pen's colour (opaque), width and dashes.
+ *  \param corner  x and y radius in pixels
+ *  \param pen     NULL leaves the canvas's style as it is
+ *  \return 1; 0 for NULL or a canvas without a surface */
+ZORVIC_API int ZORVIC_CALL GeoRoundRect(HGCANVAS canvas, const RECT* rect, const POINT* corner, HPEN pen);
+
+/** Strokes a rectangle with rounded corners, smoothed. \param corner x and y radius in pixels */
+ZORVIC_API int ZORVIC_CALL GeoRoundRectEx(HGCANVAS canvas, const RECT* rect, const POINT* corner, DWORD color,
+                                          int width);
+
+/** Draws a dotted frame: every other pixel of each side. GDI draws opaque colours on canvases without alpha.
+ *  \param color  straight ARGB
+ *  \return 1, or 0 when the pixels cannot be reached; 0 for NULL */
+ZORVIC_API int ZORVIC_CALL GeoRectFocusEx(HGCANVAS canvas, const RECT* rect, DWORD color);
+
 /* ------------------------------------------------------------------------------------------------- single colours */
 
 /** Converts a colour to hue, saturation and lightness, in integers.

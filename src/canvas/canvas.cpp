@@ -55,6 +55,7 @@ HDC Canvas::MakeDc() {
     SelectClip(dc, clip);
     SetViewportOrgEx(dc, viewportOrg.x, viewportOrg.y, nullptr);
     SetWindowOrgEx(dc, windowOrg.x, windowOrg.y, nullptr);
+    BindVectorCanvas();
     return dc;
 }
 

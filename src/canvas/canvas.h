@@ -7,8 +7,13 @@
 
 #include "canvas/memory_dc.h"
 #include "surface/bitmap.h"
+#include "vek/vekgraphic.h"
 
 namespace zorvic {
+
+struct VectorCanvasDeleter {
+    void operator()(VekCanvas canvas) const;
+};
 
 class Canvas {
 public:
@@ -49,12 +54,18 @@ public:
     // Takes the surface out; the canvas is then only good for deletion.
     std::unique_ptr<Bitmap> TakeSurface() { return std::move(surface); }
 
+    // The backend's canvas, bound to the surface's present pixels; made on the first call. Null without a surface.
+    VekCanvas VectorCanvas();
+
     HWND window = nullptr;  // the host's
     DWORD bkColor = 0;      // the host's
 
 private:
     friend class CanvasLock;
     Canvas() = default;
+
+    // Binds the backend's canvas, if there is one, to the surface's pixels, if they moved.
+    void BindVectorCanvas();
 
     HDC Dc() const { return memoryDc ? memoryDc->Get() : hostDc; }  // null until there is one
 
@@ -65,6 +76,8 @@ private:
     DWORD filter = 0;
     std::unique_ptr<Bitmap> surface;
     std::optional<MemoryDc> memoryDc;  // after the surface, whose bitmap it lets go of first
+    std::unique_ptr<VekCanvas__, VectorCanvasDeleter> vectorCanvas;
+    const void* vectorPixels = nullptr;  // what it is bound to
 };
 
 inline Canvas* FromHandle(HGCANVAS handle) { return reinterpret_cast<Canvas*>(handle); }

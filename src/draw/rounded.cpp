@@ -1,0 +1,74 @@
+// The mask is drawn white by the vector backend at the texture's own size, and the texture into the mask.
+#include "draw/rounded.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "canvas/rect.h"
+#include "canvas/vector_canvas.h"
+#include "draw/bitmaps.h"
+#include "raster/kernel_table.h"
+#include "zorvic/zorvic.h"
+
+namespace zorvic {
+
+namespace {
+
+struct VekBitmapDeleter {
+    void operator()(VekBitmap bitmap) const { vekBitmapDestroy(bitmap); }
+};
+using OwnedVekBitmap = std::unique_ptr<VekBitmap__, VekBitmapDeleter>;
+
+void DrawInto(VekCanvas mask, const BitmapLockInfo& pixels) {
+    const OwnedVekBitmap bitmap(
+        vekBitmapCreateFromData(pixels.bmBits, pixels.bmWidth, pixels.bmHeight, pixels.bmWidthBytes));
+    vekCanvasSetBlendMode(mask, VEK_BLEND_SOURCE_IN);
+    vekCanvasDrawBitmap(mask, bitmap.get(), 0, 0);
+    vekCanvasSetBlendMode(mask, VEK_BLEND_SOURCE_OVER);
+}
+
+// The backend knows 32-bit pixels only.
+void DrawInto(VekCanvas mask, const Bitmap& texture) {
+    const SurfaceLock pixels(texture);
+    if (!pixels) return;
+    if (pixels->bmBitsPixel == 32) return DrawInto(mask, *pixels);
+    const auto widened = MakeSurface<Bitmap>(pixels->bmWidth, pixels->bmHeight, 32, 0, StoreKind::memory);
+    if (!widened) return;
+    const SurfaceLock target(*widened);
+    KernelTable.At(slots::copySameSize, DepthOf(pixels->bmBitsPixel))(*target, *pixels);
+    DrawInto(mask, *target);
+}
+
+}  // namespace
+
+bool WantsRounding(const TextureDrawParams& params) {
+    const auto isZero = [](float value) { return std::abs(value) <= std::numeric_limits<float>::epsilon(); };
+    return params.rounded != 0 || !std::all_of(std::begin(params.cornerRadii), std::end(params.cornerRadii), isZero);
+}
+
+int DrawRoundedTexture(Canvas& canvas, const RECT& dst, const Texture& texture, const TextureDrawParams& params) {
+    const SIZE size = texture.Size();
+    const auto cut = IsRectEmpty(&dst) ? nullptr : Canvas::Create(size.cx, size.cy, StoreKind::memory, nullptr);
+    if (!cut) return 1;
+    cut->SetFilter(ZORVIC_OP_SOURCE_OVER);
+
+    const RECT whole{0, 0, size.cx, size.cy};
+    {
+        const VectorSave mask(cut->VectorCanvas());
+        if (!mask) return 1;
+        const auto width = static_cast<float>(size.cx), height = static_cast<float>(size.cy);
+        vekCanvasSetColor(mask.Get(), 0xFFFFFFFF);
+        if (params.ellipse) {
+            vekCanvasDrawEllipse(mask.Get(), 0, 0, width, height);
+        } else {
+            const float scaleX = width / static_cast<float>(WidthOf(dst));
+            const float scaleY = height / static_cast<float>(HeightOf(dst));
+            vekCanvasDrawRoundRect(mask.Get(), &whole, params.cornerRadii[0] * scaleX, params.cornerRadii[1] * scaleY);
+        }
+        DrawInto(mask.Get(), texture);
+    }
+    return DrawBitmapRect(canvas, dst, *cut->Surface(), whole, params.filterMode, params.alpha);
+}
+
+}  // namespace zorvic

@@ -1,0 +1,73 @@
+// Style, frame and shape of the anti-aliased fills.
+#include "draw/vector_fills.h"
+
+#include "canvas/rect.h"
+#include "draw/fills.h"
+#include "zorvic/zorvic.h"
+
+namespace zorvic {
+
+namespace {
+
+struct GradientDeleter {
+    void operator()(VekGradient gradient) const { vekGradientDestroy(gradient); }
+};
+using OwnedGradient = std::unique_ptr<VekGradient__, GradientDeleter>;
+
+// Saves the style and sets it for filling with a colour.
+class FillStyle {
+public:
+    FillStyle(Canvas& canvas, DWORD color) : saved(canvas.VectorCanvas()) {
+        if (!saved) return;
+        vekCanvasSetColor(saved.Get(), color);
+        vekCanvasSetDrawStyle(saved.Get(), VEK_DRAW_FILL);
+    }
+
+private:
+    VectorSave saved;
+};
+
+}  // namespace
+
+int DrawVectorRectangle(VekCanvas canvas, const RECT& rect, float grow) {
+    return vekCanvasDrawRectangle(canvas, static_cast<float>(rect.left), static_cast<float>(rect.top),
+                                  static_cast<float>(WidthOf(rect)) + grow, static_cast<float>(HeightOf(rect)) + grow);
+}
+
+int FillRectangle(Canvas& canvas, const RECT& rect, DWORD color) {
+    const FillStyle style(canvas, color);
+    const VectorFrame frame(canvas);
+    return frame ? DrawVectorRectangle(frame.Get(), rect) : 0;
+}
+
+int FillRoundRect(Canvas& canvas, const RECT& rect, POINT corner, DWORD color) {
+    const FillStyle style(canvas, color);
+    const VectorFrame frame(canvas);
+    if (!frame) return 0;
+    return vekCanvasDrawRoundRect(frame.Get(), &rect, static_cast<float>(corner.x), static_cast<float>(corner.y));
+}
+
+int FillGradient(Canvas* canvas, DWORD from, DWORD to, const RECT* rect, GradientDirection direction) {
+    const bool down = direction == GradientDirection::topToBottom;
+    if (Premultiply(from) == Premultiply(to) || (!down && direction != GradientDirection::leftToRight))
+        return FillColor(canvas, Premultiply(from), rect, ZORVIC_OP_SOURCE_OVER);
+    if (!canvas) return 0;
+    const RECT clip = canvas->VisibleRect();
+    RECT visible;
+    if (!rect || !IntersectRect(&visible, &clip, rect)) return 1;
+
+    const VectorSave style(canvas->VectorCanvas());
+    if (!style) return 1;
+    const auto left = static_cast<float>(rect->left), top = static_cast<float>(rect->top);
+    const OwnedGradient gradient(vekGradientCreateLinear(left, top, down ? left : static_cast<float>(rect->right),
+                                                         down ? static_cast<float>(rect->bottom) : top));
+    vekGradientAddColorStop(gradient.get(), 0, from);
+    vekGradientAddColorStop(gradient.get(), 1, to);
+    vekCanvasSetGradient(style.Get(), gradient.get());
+    vekCanvasSetDrawStyle(style.Get(), VEK_DRAW_GRADIENT);
+    const VectorFrame frame(*canvas);
+    DrawVectorRectangle(frame.Get(), *rect);
+    return 1;
+}
+
+}  // namespace zorvic
