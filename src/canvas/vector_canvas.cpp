@@ -29,7 +29,8 @@ VectorFrame::VectorFrame(Canvas& canvas) : saved(canvas.VectorCanvas()) {
     vekCanvasClipRect(saved.Get(), &clip);
     const POINT viewport = canvas.ViewportOrg(), window = canvas.WindowOrg();
     vekCanvasTranslate(saved.Get(), static_cast<float>(viewport.x), static_cast<float>(viewport.y));
-    vekCanvasTranslate(saved.Get(), -static_cast<float>(window.x), -static_cast<float>(window.y));
+    vekCanvasTranslate(saved.Get(), static_cast<float>(-std::int64_t{window.x}),
+                       static_cast<float>(-std::int64_t{window.y}));
 }
 
 }  // namespace zorvic

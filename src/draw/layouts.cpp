@@ -6,6 +6,7 @@
 #include "draw/bitmaps.h"
 #include "draw/coordinates.h"
 #include "draw/nine_grid.h"
+#include "draw/rounded.h"
 #include "zorvic/zorvic.h"
 
 namespace zorvic {
@@ -42,7 +43,8 @@ int DrawTexture(Canvas& canvas, const RECT& dst, const Texture& texture, const T
         case ZORVIC_LAYOUT_UNIFORM:
             return DrawTextureUniform(canvas, dst, texture, margins, argument == 1, params);
         default:
-            return DrawTextureSlice(canvas, dst, texture, params);
+            return WantsRounding(params) ? DrawRoundedTexture(canvas, dst, texture, params)
+                                         : DrawTextureSlice(canvas, dst, texture, params);
     }
 }
 
