@@ -122,7 +122,7 @@ TEST(Vector, RoundedTexturesKeepTheirMiddleAndLoseTheirCorners) {
             EXPECT_EQ(DrawTextureEx3(canvas.get(), &dst, texture.get(), &params, nullptr), 1);
             const Pixels pixels(canvas.get());
             EXPECT_NEAR(pixels.Get(24, 14) & 0xFF, 0x60, 1) << "the middle";
-            EXPECT_EQ(pixels.Get(4, 4), 0U) << "a corner";
+            EXPECT_LE(pixels.Get(4, 4) >> 24, 8U) << "a corner";
             double coverage = 0;
             for (int y = 0; y < 28; ++y)
                 for (int x = 0; x < 48; ++x) {

@@ -1,5 +1,7 @@
 #include "exports/null_cases.h"
 
+#include <cmath>
+
 namespace {
 
 template <class Result>
@@ -181,6 +183,69 @@ const NullCase cases[] = {
     {"LightTexture", [](With&) { return Number(LightTexture(nullptr)); }, 0},
     {"DarkBitmap", [](With&) { return Number(DarkBitmap(nullptr)); }, 0},
     {"CreateTextureRgn", [](With& o) { return Number(CreateTextureRgn(nullptr, &o.rect)); }, 0},
+
+    // vector drawing
+    {"FillRectangleEx", [](With& o) { return Number(FillRectangleEx(nullptr, &o.rect, 1)); }, 0},
+    {"FillRoundRectEx", [](With& o) { return Number(FillRoundRectEx(nullptr, &o.rect, &o.point, 1)); }, 0},
+    {"FillGradualRect", [](With& o) { return Number(FillGradualRect(nullptr, 0xFF000000, 0xFFFFFFFF, &o.rect, 1)); }, 0},
+    {"DrawPoint", [](With&) { return Number(DrawPoint(nullptr, 1, 2)); }, 0},
+    {"DrawLine", [](With&) { return Number(DrawLine(nullptr, 1, 2, 3, 4)); }, 0},
+    {"DrawRectangle", [](With&) { return Number(DrawRectangle(nullptr, 1, 2, 3, 4)); }, 0},
+    {"DrawRoundRect", [](With& o) { return Number(DrawRoundRect(nullptr, &o.rect, 1, 2)); }, 0},
+    {"DrawRoundRect", [](With& o) { return Number(DrawRoundRect(o.canvas.get(), nullptr, 1, 2)); }, 0},
+    {"DrawCircle", [](With&) { return Number(DrawCircle(nullptr, 1, 2, 3)); }, 0},
+    {"DrawEllipse", [](With&) { return Number(DrawEllipse(nullptr, 1, 2, 3, 4)); }, 0},
+    {"DrawPolygon", [](With& o) { return Number(DrawPolygon(nullptr, 1, &o.point)); }, 0},
+    {"DrawPolygon", [](With& o) { return Number(DrawPolygon(o.canvas.get(), 1, nullptr)); }, 0},
+    {"DrawBezier", [](With& o) { return Number(DrawBezier(nullptr, &o.point, &o.point, &o.point, &o.point)); }, 0},
+    {"DrawBezier", [](With& o) { return Number(DrawBezier(o.canvas.get(), &o.point, &o.point, nullptr, &o.point)); }, 0},
+    {"DrawColor", [](With& o) { return Number(DrawColor(nullptr, 1, &o.rect)); }, 0},
+    {"DrawColor", [](With& o) { return Number(DrawColor(o.canvas.get(), 1, nullptr)); }, 0},
+    {"DrawPath", [](With&) { return Number(DrawPath(nullptr, nullptr)); }, 0},
+    {"DrawPath", [](With& o) { return Number(DrawPath(o.canvas.get(), nullptr)); }, 0},
+    {"Save", [](With&) { Save(nullptr); return Number(0); }, 0},
+    {"Restore", [](With&) { Restore(nullptr); return Number(0); }, 0},
+    {"SetDrawStyle", [](With&) { SetDrawStyle(nullptr, 1); return Number(0); }, 0},
+    {"SetColor", [](With&) { SetColor(nullptr, 1); return Number(0); }, 0},
+    {"SetSmooth", [](With&) { SetSmooth(nullptr, 1); return Number(0); }, 0},
+    {"SetBlendMode", [](With&) { SetBlendMode(nullptr, 1); return Number(0); }, 0},
+    {"GetBlendMode", [](With&) { return Number(GetBlendMode(nullptr)); }, -1},
+    {"SetBlendValue", [](With&) { SetBlendValue(nullptr, 1); return Number(0); }, 0},
+    {"GetBlendValue", [](With&) { return Number(GetBlendValue(nullptr)); }, 255},
+    {"SetStrokeCap", [](With&) { SetStrokeCap(nullptr, 1); return Number(0); }, 0},
+    {"SetStrokeJoin", [](With&) { SetStrokeJoin(nullptr, 1); return Number(0); }, 0},
+    {"SetGradient", [](With&) { SetGradient(nullptr, nullptr); return Number(0); }, 0},
+    {"SetStrokeWidth", [](With&) { SetStrokeWidth(nullptr, 1); return Number(0); }, 0},
+    {"GetStrokeWidth", [](With&) { return Number(GetStrokeWidth(nullptr)); }, 1},
+    {"SetDashStyle", [](With&) { SetDashStyle(nullptr, 1); return Number(0); }, 0},
+    {"SetDashPattern", [](With&) { SetDashPattern(nullptr, nullptr, 1); return Number(0); }, 0},
+
+    // paths and gradients
+    {"PathCreate", [](With&) { PathDestroy(PathCreate()); return Number(0); }, 0},
+    {"PathDestroy", [](With&) { PathDestroy(nullptr); return Number(0); }, 0},
+    {"PathBegin", [](With&) { return Number(PathBegin(nullptr)); }, 0},
+    {"PathClose", [](With&) { return Number(PathClose(nullptr)); }, 0},
+    {"PathMoveTo", [](With&) { return Number(PathMoveTo(nullptr, 1, 2)); }, 0},
+    {"PathLineTo", [](With&) { return Number(PathLineTo(nullptr, 1, 2)); }, 0},
+    {"PathArcTo", [](With&) { return Number(PathArcTo(nullptr, 1, 2, 3, 4, 5)); }, 0},
+    {"PathBezierCurveTo", [](With&) { return Number(PathBezierCurveTo(nullptr, 1, 2, 3, 4, 5, 6)); }, 0},
+    {"PathQuadraticCurveTo", [](With&) { return Number(PathQuadraticCurveTo(nullptr, 1, 2, 3, 4)); }, 0},
+    {"PathAddArc", [](With&) { return Number(PathAddArc(nullptr, 1, 2, 3, 4, 5, 0)); }, 0},
+    {"PathAddRectangle", [](With&) { return Number(PathAddRectangle(nullptr, 1, 2, 3, 4)); }, 0},
+    {"PathAddCircle", [](With&) { return Number(PathAddCircle(nullptr, 1, 2, 3)); }, 0},
+    {"PathAddEllipse", [](With&) { return Number(PathAddEllipse(nullptr, 1, 2, 3, 4)); }, 0},
+    {"PathGetBounds", [](With&) { PathBounds bounds; return Number(PathGetBounds(nullptr, &bounds)); }, 0},
+    {"GradientCreateLinear", [](With&) { return Number(GradientCreateLinear(NAN, 2, 3, 4)); }, 0},
+    {"GradientCreateRadial", [](With&) { return Number(GradientCreateRadial(NAN, 2, 3, 4, 5, 6)); }, 0},
+    {"GradientAddColorStop", [](With&) { return Number(GradientAddColorStop(nullptr, 0, 1)); }, 0},
+    {"GradientDestroy", [](With&) { GradientDestroy(nullptr); return Number(0); }, 0},
+
+    // outlines
+    {"GeoRectangle", [](With& o) { return Number(GeoRectangle(nullptr, &o.rect, nullptr, nullptr)); }, 0},
+    {"GeoRectangleEx", [](With& o) { return Number(GeoRectangleEx(nullptr, &o.rect, 1, 1)); }, 0},
+    {"GeoRoundRect", [](With& o) { return Number(GeoRoundRect(nullptr, &o.rect, &o.point, nullptr)); }, 0},
+    {"GeoRoundRectEx", [](With& o) { return Number(GeoRoundRectEx(nullptr, &o.rect, &o.point, 1, 1)); }, 0},
+    {"GeoRectFocusEx", [](With& o) { return Number(GeoRectFocusEx(nullptr, &o.rect, 1)); }, 0},
 };
 // clang-format on
 
