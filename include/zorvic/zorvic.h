@@ -45,10 +45,10 @@ enum {
     ZORVIC_OP_COPY = 0x00000000,        /**< replaces them; below opacity 255 a source is blended as SOURCE_OVER */
     ZORVIC_OP_SOURCE_OVER = 0x01000000, /**< drawn over them by its alpha */
     ZORVIC_OP_COLOR_KEY = 0x02000000, /**< copies what differs from the key, OR'ed in as 0xRRGGBB; fills: SOURCE_OVER */
-    ZORVIC_OP_MULTIPLY = 0x03000000,  /**< multiplies channel by channel; ignores the opacity */
+    ZORVIC_OP_MULTIPLY = 0x03000000,  /**< multiplies channel by channel; scaled bilinearly; ignores the opacity */
     ZORVIC_OP_OR = 0x04000000,        /**< fills only: bitwise OR; 0 clears, 0xFFFFFFFF changes nothing */
-    ZORVIC_OP_GRAY_WASH = 0x05000000, /**< fills only: mixes in the pixel's grey by the colour's alpha */
-    ZORVIC_OP_DESTINATION_OVER = 0x06000000 /**< drawn behind them; ignores the opacity */
+    ZORVIC_OP_GRAY_WASH = 0x05000000, /**< fills only: opaque pixels become their grey, times the colour's alpha */
+    ZORVIC_OP_DESTINATION_OVER = 0x06000000 /**< drawn behind them; scaled bilinearly; ignores the opacity */
 };
 
 /** Sampling filters: how a source is read when it is drawn at another size. Any other value is bilinear too. */
@@ -468,9 +468,11 @@ ZORVIC_API int ZORVIC_CALL MixCanvas(HGCANVAS dst, const RECT* dstRect, HGCANVAS
  *  \return 1; 0 for NULL */
 ZORVIC_API int ZORVIC_CALL MixCanvasWithColor(HGCANVAS canvas, const RECT* rect, DWORD color, DWORD value);
 
-/** Draws one canvas on another. A source with ZORVIC_OP_SOURCE_OVER is composed by its alpha; otherwise it counts as
- *  opaque and is blended by the constant alpha. Stretching is nearest. When either canvas is on a host's device
- *  context, GDI does the transfer: AlphaBlend for a source with alpha, else StretchBlt, which ignores alpha.
+/** Draws one canvas on another. A source with ZORVIC_OP_SOURCE_OVER is composed by its alpha. Otherwise, when the
+ *  destination has it or alpha is below 255, the source counts as opaque and is blended by the constant alpha, but for
+ *  draws that are both stretched and clipped; else it is copied, alpha included. Stretching is nearest. When either
+ *  canvas is on a host's device context, GDI does the transfer: AlphaBlend for a source with alpha, else StretchBlt,
+ *  which ignores alpha and obeys the target's stretch mode.
  *  \param dstRect,srcRect  logical pixels
  *  \param alpha            opacity; without effect on a source with alpha between surfaces
  *  \return 1, or GDI's result; 0 for NULL */
@@ -479,11 +481,11 @@ ZORVIC_API int ZORVIC_CALL BlendCanvas(HGCANVAS dst, const RECT* dstRect, HGCANV
 
 /** Moves the whole surface dy rows, down when positive; the rows that are uncovered keep their pixels.
  *  \param dx  0
- *  \return 1; 0 for NULL, dx other than 0 or a canvas without a surface */
+ *  \return 1; 0 for NULL, dx other than 0, a canvas without a surface, or while its origins differ */
 ZORVIC_API int ZORVIC_CALL CanvasScroll(HGCANVAS canvas, int dx, int dy);
 
 /** Brings a canvas to a device context through GDI: AlphaBlend when the canvas has ZORVIC_OP_SOURCE_OVER or alpha is
- *  below 255, else StretchBlt.
+ *  below 255, else StretchBlt. A reduced picture wants SetStretchBltMode(target, COLORONCOLOR) or HALFTONE before.
  *  \param target  device context of a window, a printer or a bitmap
  *  \param dst     logical units of the target
  *  \param src     logical pixels of the canvas

@@ -18,3 +18,8 @@ Sheet EffectsPage(const Pictures& pictures);
 Sheet ColorizePage(const Pictures& pictures);
 Sheet GlowPage(const Pictures& pictures);
 Sheet RegionsPage(const Pictures& pictures);
+Sheet ShapesPage(const Pictures& pictures);
+Sheet StrokesPage(const Pictures& pictures);
+Sheet BlendingPage(const Pictures& pictures);
+Sheet GradientsPage(const Pictures& pictures);
+Sheet OutlinesPage(const Pictures& pictures);
