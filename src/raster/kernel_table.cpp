@@ -4,8 +4,10 @@
 #include <array>
 #include <initializer_list>
 
+#include "pixel/primitives.h"
 #include "raster/kernels.h"
 #include "raster/lookup_tables.h"
+#include "raster/routed_kernels.h"
 
 namespace zorvic {
 
@@ -38,8 +40,10 @@ constexpr Overlay overlays[] = {
     {Stage::primitives, Only({52, 59, 91, 98})},
 };
 
-// Every stage brings the baseline form until it has one of its own; the weights in memory decide on the arithmetic.
-const KernelSet& KernelsOf(Stage, const CpuFeatures& features) {
+// The vector stages bring the baseline form until they have one of their own; the weights in memory decide on the
+// arithmetic.
+const KernelSet& KernelsOf(Stage stage, const CpuFeatures& features) {
+    if (stage == Stage::primitives) return routedKernels;
     return features.cpuHasMMX ? packedKernels : baselineKernels;
 }
 
@@ -79,17 +83,18 @@ KernelSet MakeKernelTable(const CpuFeatures& features, bool primitiveLayer) {
     return table;
 }
 
-void FillTables(const CpuFeatures& features) {
+void FillTables(const CpuFeatures& features, bool primitiveLayer) {
     ProcessorFeatures = features;
     BuildStretchFilterWeights();
     if (!features.cpuHasMMX) ClampTable = MakeClampTable();
-    KernelTable = MakeKernelTable(features);
+    SavedKernels = MakeKernelTable(features);
+    KernelTable = MakeKernelTable(features, primitiveLayer);
 }
 
 void InitKernelTable() {
     CpuFeatures features;
     DetectCpuFeatures(features);
-    FillTables(features);
+    FillTables(features, InitPrimitives() == Status::success);
 }
 
 namespace {

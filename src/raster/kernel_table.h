@@ -17,7 +17,7 @@ Stage StageOfSlot(int slot, const CpuFeatures& features, bool primitiveLayer = f
 KernelSet MakeKernelTable(const CpuFeatures& features, bool primitiveLayer = false);
 
 // Fills KernelTable and the lookup tables that its kernels read for a processor: this one, or one that a test forces.
-void FillTables(const CpuFeatures& features);
+void FillTables(const CpuFeatures& features, bool primitiveLayer = false);
 
 // Fills the tables for this processor. A static initialiser runs it before any export.
 void InitKernelTable();

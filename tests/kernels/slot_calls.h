@@ -3,10 +3,14 @@
 
 #include <functional>
 #include <ostream>
+#include <tuple>
 #include <vector>
 
 #include "kernels/model.h"
+#include "pixel/primitive_set.h"
+#include "raster/kernel_table.h"
 #include "raster/kernels.h"
+#include "raster/routed_kernels.h"
 
 namespace zorvic {
 
@@ -15,12 +19,16 @@ struct NamedKernels {
     const char* name;
     const KernelSet* kernels;
     bool packedWeights;
+    Level widestPrimitives = Level::avx2;
 
     friend void PrintTo(const NamedKernels& kernels, std::ostream* out) { *out << kernels.name; }
 };
 inline constexpr NamedKernels kernelSets[] = {
     {"baseline", &baselineKernels, false},
     {"packed", &packedKernels, true},
+    {"routed_generic", &routedKernels, true, Level::generic},
+    {"routed_sse2", &routedKernels, true, Level::sse2},
+    {"routed_avx2", &routedKernels, true, Level::avx2},
 };
 
 struct SlotCall {
@@ -66,6 +74,16 @@ void AppendCalls(std::vector<SlotCall>& calls, Group<Kernel> group) {
 inline std::vector<SlotCall> AllSlotCalls() {
     std::vector<SlotCall> calls;
     std::apply([&](auto... entry) { (AppendCalls(calls, entry), ...); }, slots::all);
+    return calls;
+}
+
+// Every slot of every set. The routed set has only those that the table takes from it.
+inline std::vector<std::tuple<NamedKernels, SlotCall>> AllKernelCalls() {
+    std::vector<std::tuple<NamedKernels, SlotCall>> calls;
+    for (const NamedKernels& set : kernelSets)
+        for (const SlotCall& call : AllSlotCalls())
+            if (set.kernels != &routedKernels || StageOfSlot(call.slot, {}, true) == Stage::primitives)
+                calls.emplace_back(set, call);
     return calls;
 }
 

@@ -46,7 +46,7 @@ TEST(KernelTable, EverySlotOfEveryProcessor) {
 template <class Kernel>
 void CheckInstalled(Slot<Kernel> slot) {
     EXPECT_NE(KernelTable.At(slot), nullptr) << slot.index;
-    EXPECT_EQ(KernelTable.At(slot), MakeKernelTable(ProcessorFeatures).At(slot)) << slot.index;
+    EXPECT_EQ(KernelTable.At(slot), MakeKernelTable(ProcessorFeatures, true).At(slot)) << slot.index;
 }
 template <class Kernel>
 void CheckInstalled(Group<Kernel> group) {
