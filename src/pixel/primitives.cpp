@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstdlib>
 #include <cstring>
 
 #include "pixel/primitive_set.h"
@@ -88,9 +89,10 @@ Status CopyPixels(SourcePixels src, TargetPixels dst, SIZE size, int bytesPerPix
     const Status status = CheckRegion(size, src.first, dst.first);
     if (status != Status::success) return status;
     const std::size_t rowBytes = static_cast<std::size_t>(size.cx) * static_cast<std::size_t>(bytesPerPixel);
-    // Where rows overlap others, those that would be overwritten go first.
-    const bool movesOn = reinterpret_cast<std::uintptr_t>(dst.first) > reinterpret_cast<std::uintptr_t>(src.first);
-    const bool lastFirst = movesOn == (dst.step > 0);
+    // Rows that would be overwritten before their turn go first.
+    const bool moves = src.step == dst.step && static_cast<std::size_t>(std::abs(dst.step)) >= rowBytes;
+    const bool ahead = reinterpret_cast<std::uintptr_t>(dst.first) > reinterpret_cast<std::uintptr_t>(src.first);
+    const bool lastFirst = moves && ahead == (dst.step > 0);
     for (int i = 0; i < size.cy; ++i) {
         const int y = lastFirst ? size.cy - 1 - i : i;
         std::memmove(RowOf(dst, y), RowOf(src, y), rowBytes);
