@@ -18,7 +18,7 @@ bool Canvas::SaveLayer(const Box* bounds, int alpha) {
     const Rect place = Intersect(Intersect(part, state.clip), Top().Place());
     auto layer = std::make_unique<Layer>();
     layer->alpha = std::clamp(alpha, 0, 255);
-    layer->image.AllocateClear(place.Empty() ? Rect{} : place);
+    layer->image.Allocate(place.Empty() ? Rect{} : place);
     saved.back().layer = std::move(layer);
     return true;
 }

@@ -46,6 +46,19 @@ Handle NewHandle(Make make) noexcept {
 }
 
 inline Point PointOf(float x, float y) { return {static_cast<double>(x), static_cast<double>(y)}; }
+// Opposite corners of the box that a call describes.
+struct Corners {
+    Point a;
+    Point b;
+};
+inline Corners CornersOf(float x, float y, float width, float height) {
+    return {PointOf(x, y), PointOf(x, y) + PointOf(width, height)};
+}
+inline Corners AroundCircle(float cx, float cy, float radius) {
+    const double r = std::max(static_cast<double>(radius), 0.0);
+    return {PointOf(cx, cy) - Point{r, r}, PointOf(cx, cy) + Point{r, r}};
+}
+
 inline Box BoxOf(const RECT& rect) {
     return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.right),
             static_cast<double>(rect.bottom)};

@@ -28,9 +28,9 @@ int vekCanvasDrawLine(VekCanvas canvas, float x1, float y1, float x2, float y2) 
 }
 
 int vekCanvasDrawRectangle(VekCanvas canvas, float x, float y, float width, float height) {
-    const Point corner = PointOf(x, y);
+    const auto [a, b] = CornersOf(x, y, width, height);
     return DrawOn(
-        canvas, [&](Canvas& c) { c.DrawRectangle(corner, corner + PointOf(width, height)); }, x, y, width, height);
+        canvas, [&](Canvas& c) { c.DrawRectangle(a, b); }, x, y, width, height);
 }
 
 int vekCanvasDrawRoundRect(VekCanvas canvas, const RECT* rect, float rx, float ry) {
@@ -46,20 +46,15 @@ int vekCanvasDrawRoundRect(VekCanvas canvas, const RECT* rect, float rx, float r
 }
 
 int vekCanvasDrawCircle(VekCanvas canvas, float cx, float cy, float radius) {
-    const Point center = PointOf(cx, cy);
-    const double r = std::max(static_cast<double>(radius), 0.0);
+    const auto [a, b] = AroundCircle(cx, cy, radius);
     return DrawOn(
-        canvas,
-        [&](Canvas& c) {
-            c.DrawEllipse(center - Point{r, r}, center + Point{r, r});
-        },
-        cx, cy, radius);
+        canvas, [&](Canvas& c) { c.DrawEllipse(a, b); }, cx, cy, radius);
 }
 
 int vekCanvasDrawEllipse(VekCanvas canvas, float x, float y, float width, float height) {
-    const Point corner = PointOf(x, y);
+    const auto [a, b] = CornersOf(x, y, width, height);
     return DrawOn(
-        canvas, [&](Canvas& c) { c.DrawEllipse(corner, corner + PointOf(width, height)); }, x, y, width, height);
+        canvas, [&](Canvas& c) { c.DrawEllipse(a, b); }, x, y, width, height);
 }
 
 int vekCanvasDrawPath(VekCanvas canvas, VekPath path) {

@@ -78,26 +78,21 @@ int vekPathAddArc(VekPath path, float cx, float cy, float radius, float startAng
 }
 
 int vekPathAddRectangle(VekPath path, float x, float y, float width, float height) {
-    const Point corner = PointOf(x, y);
+    const auto [a, b] = CornersOf(x, y, width, height);
     return Build(
-        path, [&](Path& p) { p.AddRectangle(corner, corner + PointOf(width, height)); }, x, y, width, height);
+        path, [&](Path& p) { p.AddRectangle(a, b); }, x, y, width, height);
 }
 
 int vekPathAddCircle(VekPath path, float cx, float cy, float radius) {
-    const Point center = PointOf(cx, cy);
-    const double r = std::max(static_cast<double>(radius), 0.0);
+    const auto [a, b] = AroundCircle(cx, cy, radius);
     return Build(
-        path,
-        [&](Path& p) {
-            p.AddEllipse(center - Point{r, r}, center + Point{r, r});
-        },
-        cx, cy, radius);
+        path, [&](Path& p) { p.AddEllipse(a, b); }, cx, cy, radius);
 }
 
 int vekPathAddEllipse(VekPath path, float x, float y, float width, float height) {
-    const Point corner = PointOf(x, y);
+    const auto [a, b] = CornersOf(x, y, width, height);
     return Build(
-        path, [&](Path& p) { p.AddEllipse(corner, corner + PointOf(width, height)); }, x, y, width, height);
+        path, [&](Path& p) { p.AddEllipse(a, b); }, x, y, width, height);
 }
 
 int vekPathGetBounds(VekPath path, VekBounds* bounds) {

@@ -18,11 +18,6 @@ void Image::Allocate(const Rect& where) {
     currentClip = {};
 }
 
-void Image::AllocateClear(const Rect& where) {
-    Allocate(where);
-    std::fill(own.begin(), own.end(), 0U);
-}
-
 bool Image::SharesPixels(const Image& other) const {
     const auto end = [](const Image& image) { return image.At(image.place.right, image.place.bottom - 1); };
     return std::less<>()(bits, end(other)) && std::less<>()(other.bits, end(*this));

@@ -21,9 +21,8 @@ public:
     Image Another() const { return {bits, place, static_cast<int>(strideWords * 4)}; }
     bool SharesPixels(const Image& other) const;
 
-    // Own pixels with any contents. Memory that is there already is used again.
+    // Own pixels: transparent the first time; later the memory is used again as it is.
     void Allocate(const Rect& place);
-    void AllocateClear(const Rect& place);
 
     const Rect& Place() const { return place; }
     std::uint32_t* At(int x, int y) const {

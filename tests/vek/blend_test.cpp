@@ -272,6 +272,25 @@ TEST(Blend, ClearTakesAwayWhatAStrokeCovers) {
         }
 }
 
+// Rows of thousands of partly covered pixels.
+TEST(Blend, WideShapesReplaceToo) {
+    Drawing drawing(9000, 6, 0xFFFFFFFF);
+    const OwnedGradient gradient(vekGradientCreateLinear(0, 0, 9000, 0));
+    vekGradientAddColorStop(gradient.get(), 0, 0x80FF0000);
+    vekGradientAddColorStop(gradient.get(), 1, 0x80FE0000);
+    vekCanvasSetGradient(drawing, gradient.get());
+    vekCanvasSetDrawStyle(drawing, VEK_DRAW_GRADIENT);
+    vekCanvasSetBlendMode(drawing, VEK_BLEND_SOURCE);
+    const OwnedPath path = MakePath();
+    for (const auto& [x, y] : {std::pair{0.0F, 1.5F}, {9000.0F, 1.5F}, {9000.0F, 4.5F}, {4500.0F, 4.4F}, {0.0F, 4.5F}})
+        vekPathLineTo(path.get(), x, y);
+    vekCanvasDrawPath(drawing, path.get());
+    for (int x = 0; x < 9000; ++x) {
+        ASSERT_TRUE(IsNear(drawing.At(x, 1), 0xC0C08080, 10)) << x;
+        ASSERT_TRUE(IsNear(drawing.At(x, 2), 0x80800000, 1)) << x;
+    }
+}
+
 TEST(Blend, ValueZeroChangesNothing) {
     for (int mode = 0; mode < modeCount; ++mode) {
         Drawing drawing(20, 20);
