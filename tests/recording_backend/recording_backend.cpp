@@ -64,13 +64,21 @@ extern "C" __declspec(dllexport) const char* VEK_CALL vekRecordedCalls(void) {
     return taken.c_str();
 }
 
+// Creating canvases fails while this is not 0.
+extern "C" {
+__declspec(dllexport) int vekRefuseCanvases = 0;
+}
+
 VekBitmap vekBitmapCreateFromData(void* bits, int width, int height, int stride) {
     return Create<VekBitmap>(std::string(bits ? "" : "no ") + "bits " + std::to_string(width) + ' ' +
                              std::to_string(height) + ' ' + std::to_string(stride));
 }
 void vekBitmapDestroy(VekBitmap bitmap) { Write("destroy bitmap", bitmap); }
 
-VekCanvas vekCanvasCreate(void) { return Create<VekCanvas>("create canvas"); }
+VekCanvas vekCanvasCreate(void) {
+    const VekCanvas created = Create<VekCanvas>("create canvas");
+    return vekRefuseCanvases ? nullptr : created;
+}
 void vekCanvasDestroy(VekCanvas canvas) { Write("destroy canvas", canvas); }
 int vekCanvasSetBitmap(VekCanvas canvas, VekBitmap bitmap) { return Write("bind", canvas, bitmap); }
 int vekCanvasSave(VekCanvas canvas) { return Write("save", canvas); }

@@ -7,6 +7,7 @@ using namespace host;
 
 // Of the recording backend.
 extern "C" __declspec(dllimport) const char* __cdecl vekRecordedCalls(void);
+extern "C" __declspec(dllimport) int vekRefuseCanvases;
 
 namespace {
 
@@ -228,4 +229,19 @@ TEST(Sequences, WithoutASurfaceTheBackendHearsNothing) {
         }
     EXPECT_STREQ(vekRecordedCalls(), "");
     DeleteDC(dc);
+}
+
+TEST(Sequences, NothingIsSavedWhenTheBackendCannotBeBound) {
+    const OwnedCanvas canvas(CreateCanvas(8, 8, nullptr));
+    vekRecordedCalls();
+    vekRefuseCanvases = 1;
+    for (const Sequence& sequence : sequences) {
+        const double result = sequence.call(canvas.get());
+        std::string calls = vekRecordedCalls();
+        EXPECT_TRUE(result == sequence.result || result <= 1 || result == 255) << sequence.name;
+        while (calls.starts_with("create canvas\n")) calls.erase(0, 14);
+        EXPECT_EQ(calls, "") << sequence.name;
+    }
+    vekRefuseCanvases = 0;
+    EXPECT_EQ(FillRectangleEx(canvas.get(), &rect, 0xFF000000), 13) << "the canvas works again";
 }
