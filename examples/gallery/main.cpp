@@ -31,9 +31,10 @@ constexpr Page pages[]{
     {L"09-composition.png", CompositionPage}, {L"10-gdi.png", GdiPage},
     {L"11-effects.png", EffectsPage},         {L"12-colorize.png", ColorizePage},
     {L"13-glow-and-shadow.png", GlowPage},    {L"14-regions.png", RegionsPage},
-    {L"20-shapes.png", ShapesPage},           {L"21-strokes.png", StrokesPage},
-    {L"22-blend-modes.png", BlendingPage},    {L"23-gradients.png", GradientsPage},
-    {L"24-outlines.png", OutlinesPage},
+    {L"15-filters.png", FiltersPage},         {L"16-layouts.png", LayoutsPage},
+    {L"17-transforms.png", TransformsPage},   {L"20-shapes.png", ShapesPage},
+    {L"21-strokes.png", StrokesPage},         {L"22-blend-modes.png", BlendingPage},
+    {L"23-gradients.png", GradientsPage},     {L"24-outlines.png", OutlinesPage},
 };
 
 void DrawPages(const std::wstring& folder, const std::vector<std::wstring>& files) {

@@ -196,3 +196,37 @@ Bitmap SampleBall() {
         return Over(gloss, Over(glass, Shadow((std::hypot(u * 0.95, (v - 0.86) * 3.4) - 0.7) * 20, 7, 0.5)));
     });
 }
+
+Bitmap SamplePanel() {
+    return Painted(CreateMemBitmap(100, 100), [](double x, double y) {
+        const double edge = RoundRect(x - 50, y - 50, 50, 50, 14);
+        Paint face = y < 22 ? Mix({0.36, 0.62, 0.94}, {0.13, 0.36, 0.74}, y / 22)
+                            : Mix({0.97, 0.97, 0.99}, {0.82, 0.86, 0.93}, (y - 22) / 78);
+        const double stud = std::hypot(std::abs(x - 50) - 39, std::abs(y - 50) - 39);
+        face = Mix(face, {0.98, 0.83, 0.36}, 1 - Step(3.4, 4.4, stud));
+        face = Mix(face, {0.07, 0.16, 0.34}, std::max(Step(-2.6, -1.6, edge), 1 - Step(0.4, 1.1, std::abs(y - 22))));
+        face.a = 1 - Step(-0.5, 0.5, edge);
+        return face;
+    });
+}
+
+Bitmap SampleGroove() {
+    return Painted(CreateMemBitmap(190, 10), [](double x, double y) {
+        const double edge = RoundRect(x - 95, y - 5, 95, 5, 5);
+        Paint face = Mix({0.62, 0.66, 0.72}, {0.88, 0.90, 0.93}, y / 10);
+        face = Mix(face, {0.36, 0.40, 0.47}, Step(-2.0, -1.0, edge));
+        face.a = 1 - Step(-0.5, 0.5, edge);
+        return face;
+    });
+}
+
+Bitmap SampleThumb() {
+    return Painted(CreateMemBitmap(28, 42), [](double x, double y) {
+        // A box that ends in an arrow.
+        const double edge = std::max(RoundRect(x - 14, y - 20, 12, 19, 4), (y + std::abs(x - 14) - 40) * 0.7);
+        Paint face = Mix({0.40, 0.72, 1.0}, {0.08, 0.34, 0.78}, y / 42);
+        face = Mix(face, {0.03, 0.17, 0.42}, Step(-2.2, -1.2, edge));
+        face.a = 1 - Step(-0.5, 0.5, edge);
+        return face;
+    });
+}
