@@ -42,8 +42,6 @@ void Canvas::ClipTo(const Box& box) {
     const Rect pixels{ToPixel(PixelEdge(moved.left)), ToPixel(PixelEdge(moved.top)), ToPixel(PixelEdge(moved.right)),
                       ToPixel(PixelEdge(moved.bottom))};
     state.clip = Intersect(state.clip, pixels);
-    // Later rectangles cannot open an empty clip again.
-    if (state.clip.Empty()) state.clip = {};
 }
 
 }  // namespace zorvic::vek

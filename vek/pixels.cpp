@@ -25,12 +25,6 @@ std::uint32_t MixOne(std::uint32_t a, std::uint32_t b, std::uint32_t k) {
     return DivideLanesBy255(low) | DivideLanesBy255(high) << 8;
 }
 
-std::uint32_t LimitToAlpha(std::uint32_t pixel) {
-    const std::uint32_t alpha = pixel >> 24;
-    const auto channel = [&](int shift) { return std::min(pixel >> shift & 0xFF, alpha) << shift; };
-    return alpha << 24 | channel(16) | channel(8) | channel(0);
-}
-
 }  // namespace
 
 std::uint32_t Premultiply(std::uint32_t color, int opacity) {
@@ -60,11 +54,11 @@ void CopyPixels(Image& to, const Image& from, const Rect& rect) {
 }
 
 void MixPixels(Image& composed, const Image& original, const Rect& rect, int opacity) {
+    if (opacity == 255) return;
     for (int y = rect.top; y < rect.bottom; ++y) {
         std::uint32_t* row = composed.At(rect.left, y);
         const std::uint32_t* old = original.At(rect.left, y);
-        for (int i = 0; i < rect.Width(); ++i)
-            row[i] = MixOne(old[i], LimitToAlpha(row[i]), static_cast<std::uint32_t>(opacity));
+        for (int i = 0; i < rect.Width(); ++i) row[i] = MixOne(old[i], row[i], static_cast<std::uint32_t>(opacity));
     }
 }
 

@@ -24,7 +24,7 @@ bool FillPixels(Image& image, const Rect& rect, Blend blend, std::uint32_t premu
 // Copies a rectangle that lies inside both images.
 void CopyPixels(Image& to, const Image& from, const Rect& rect);
 
-// Pixels of composed become original + (composed - original) * opacity / 255, no colour above its alpha.
+// Pixels of composed become original + (composed - original) * opacity / 255.
 void MixPixels(Image& composed, const Image& original, const Rect& rect, int opacity);
 
 }  // namespace zorvic::vek

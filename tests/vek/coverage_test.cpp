@@ -82,7 +82,7 @@ TEST(Coverage, FilledShapesHaveTheirArea) {
          [](VekCanvas c) { vekCanvasDrawCircle(c, -1e7F, 100, 1.00001e7F); }},
         {"triangle with far corners", 200 * 200 - 200 * 75,
          [](VekCanvas c) {
-             DrawLines(c, {{-4e6F, -999950}, {4e6F, 1000050}, {-4e6F, 4e6F}});
+             DrawLines(c, {{4e6F, 1000050}, {-4e6F, 4e6F}, {-4e6F, -999950}});
          }},
     });
 }
@@ -128,10 +128,14 @@ TEST(Coverage, StrokesHaveTheirArea) {
              SetStroke(c, 10);
              vekCanvasDrawLine(c, 100 - 4e6F, 100 - 2e6F, 100 + 4e6F, 100 + 2e6F);
          }},
-        {"closed figure that comes from far away", 200 * 4 * 2,
+        {"closed figure that goes far away and comes back to its corner", 160 * 20 + 90 * 20,
          [](VekCanvas c) {
-             SetStroke(c, 4);
-             vekCanvasDrawRectangle(c, 50, -1e6F, 100, 2e6F);
+             SetStroke(c, 20);
+             const OwnedPath path = MakePath();
+             for (const auto& [x, y] : {std::pair{50.0F, 100.0F}, {1e6F, 100.0F}, {50.0F, 1e6F}})
+                 vekPathLineTo(path.get(), x, y);
+             vekPathClose(path.get());
+             vekCanvasDrawPath(c, path.get());
          }},
     });
 }
@@ -173,6 +177,16 @@ TEST(Coverage, DashesHaveTheirLengths) {
         }
 }
 
+// On 10, off 10 from -1000007: the picture begins 7 pixels into a dash.
+TEST(Coverage, DashesKeepTheirPhaseFromFarAway) {
+    Drawing drawing;
+    const float pattern[] = {10, 10};
+    vekCanvasSetDashPattern(drawing, pattern, 2);
+    SetStroke(drawing, 1);
+    DrawLines(drawing, {{-1000007, 50.5F}, {-500003, 50.5F}, {1000007, 50.5F}});
+    for (int x = 0; x < 200; ++x) EXPECT_EQ(drawing.At(x, 50) != 0, (x + 7) % 20 < 10) << x;
+}
+
 TEST(Coverage, DashPatternsHaveTheirArea) {
     const auto line = [](std::vector<float> pattern, float from, float to) {
         return [=](VekCanvas c) {
@@ -192,6 +206,13 @@ TEST(Coverage, DashPatternsHaveTheirArea) {
         {"255 entries", (100 + 0.5 * 80) * 4, line(many, 10, 190)},
         {"no dash in sight", 0, line({0, 10}, 20, 180)},
         {"far line", 100 * 4, line({10, 10}, -1e6F, 1e6F)},
+        {"far corner inside a dash", 65 * 10 + 45 * 10,
+         [](VekCanvas c) {
+             const float pattern[] = {1e9F, 1};
+             vekCanvasSetDashPattern(c, pattern, 2);
+             SetStroke(c, 10);
+             DrawLines(c, {{-1e6F, 50}, {60, 50}, {60, 100}});
+         }},
         {"finer than can be seen, far line", 200 * 4 * 0.25, line({1e-4F, 3e-4F}, -1e6F, 1e6F)},
         {"circle", pi * 60 * 6,
          [turn](VekCanvas c) {

@@ -39,14 +39,6 @@ TEST(Path, BoundsAreExact) {
              vekPathLineTo(p, 3, 4);
          },
          {1, 2, 3, 4}},
-        {"after close from the start",
-         [](VekPath p) {
-             vekPathMoveTo(p, 10, 10);
-             vekPathLineTo(p, 20, 10);
-             vekPathClose(p);
-             vekPathLineTo(p, 10, -5);
-         },
-         {10, -5, 20, 10}},
         {"rectangle, then a figure of its own",
          [](VekPath p) {
              vekPathAddRectangle(p, 10, 20, -4, 5);
@@ -146,6 +138,20 @@ TEST(Path, FillsAndStrokesItsFigures) {
         EXPECT_EQ(stroked.At(x, y), 0xFF000000) << x << ", " << y;
 }
 
+TEST(Path, GoesOnFromTheStartOfAClosedFigure) {
+    Drawing drawing;
+    const OwnedPath path = MakePath();
+    vekPathMoveTo(path.get(), 20, 20);
+    vekPathLineTo(path.get(), 60, 20);
+    vekPathClose(path.get());
+    vekPathLineTo(path.get(), 20, 60);
+    vekCanvasSetDrawStyle(drawing, VEK_DRAW_STROKE);
+    vekCanvasSetStrokeWidth(drawing, 4);
+    vekCanvasDrawPath(drawing, path.get());
+    EXPECT_EQ(drawing.At(20, 40), 0xFF000000);
+    EXPECT_EQ(drawing.At(40, 40), 0U);
+}
+
 TEST(Gradient, ColorsAtKnownPlaces) {
     struct Stop {
         float offset;
@@ -217,6 +223,8 @@ TEST(Gradient, MovesWithTheCanvasAndOutlivesItsHandle) {
     EXPECT_EQ(drawing.At(50, 192), 0xFF112233) << "no gradient: the colour";
     vekCanvasSetGradient(drawing, gradient.get());
     vekGradientAddColorStop(gradient.get(), 0, 0xFFFF0000);
+    vekCanvasDrawRectangle(drawing, 0, 0, 100, 10);
+    EXPECT_TRUE(IsNear(drawing.At(99, 5), 0xFFFF0000, 2));
     vekGradientAddColorStop(gradient.get(), 1, 0xFF0000FF);
     gradient.reset();
     vekCanvasDrawRectangle(drawing, 0, 0, 100, 10);

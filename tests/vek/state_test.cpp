@@ -134,6 +134,22 @@ TEST(State, LayersAreComposedOnceWithTheirOpacity) {
     EXPECT_EQ(drawing.At(90, 50), 0U);
 }
 
+// As large as bitmaps get, with memory for its first rows only: a layer of that size cannot be made.
+TEST(State, ALayerWithoutMemoryIsOnlyASave) {
+    constexpr int most = 32767;
+    Pixels rows(most, 3);
+    const OwnedBitmap huge(vekBitmapCreateFromData(rows.words.data(), most, most, most * 4));
+    Drawing drawing;
+    vekCanvasSetBitmap(drawing, huge.get());
+    EXPECT_EQ(vekCanvasSaveLayer(drawing, nullptr, 128), 0);
+    vekCanvasSetColor(drawing, 0xFF00FF00);
+    EXPECT_EQ(vekCanvasDrawCircle(drawing, 1.5F, 1.5F, 1.4F), 1);
+    EXPECT_EQ(rows.At(1, 1), 0xFF00FF00);
+    EXPECT_EQ(vekCanvasRestore(drawing), 1);
+    vekCanvasDrawPoint(drawing, 9, 1);
+    EXPECT_EQ(rows.At(9, 1), 0xFF000000);
+}
+
 TEST(State, RebindingKeepsStyleAndUsesTheNewPixels) {
     Drawing drawing(50, 50);
     Pixels other(60, 30);
