@@ -829,4 +829,56 @@ ZORVIC_API int ZORVIC_CALL BlurTexture(HGTEXTURE dst, HGTEXTURE src);
  *  \return a region that is the caller's to delete; NULL for NULL, an area that is not inside, or another depth */
 ZORVIC_API HRGN ZORVIC_CALL CreateTextureRgn(HGTEXTURE texture, const RECT* area);
 
+/* -------------------------------------------------------------------------------------- pixels in the host's memory
+ * These work on memory that the host describes: bmWidth, bmHeight, bmWidthBytes (negative where rows run upwards),
+ * bmBitsPixel and bmBits. What is called four bytes per pixel has them whatever bmBitsPixel says. A record describes as
+ * many rows as it has, each as long as its row step (the depth, where the step is 0); a call that would touch a byte
+ * outside does nothing. Where nothing else is said, the result is 1, or 0 for a NULL record, NULL bits, a width or
+ * height below 1, and for what would reach outside. */
+
+/** Copies pixels. Nothing is stretched, and destinations of other depths get the source's bytes.
+ *  \param src   24 or 32 bits per pixel
+ *  \param dst   large enough for what is copied; may overlap src if the row steps are the same
+ *  \param area  which rows of both images, top to bottom, and how many pixels of each, right - left; they start
+ *               bmBitsPixel * left / 4 bytes into the row, which is column 2 * left: pass left 0 where the place
+ *               matters. NULL: as many as src has, from the first pixels on
+ *  \return 0 also for other depths and when right or bottom lies outside src */
+ZORVIC_API int ZORVIC_CALL CopyBitmap_IPP(const BITMAP* src, BITMAP* dst, const RECT* area);
+
+/** Mirrors an image of four bytes per pixel in place.
+ *  \param axis  0 top to bottom, 1 left to right, 2 both, which is half a turn
+ *  \return 0 also for another axis */
+ZORVIC_API int ZORVIC_CALL Mirror(BITMAP* image, int axis);
+
+/** Mirror into another image. \return 0 also for images of two sizes */
+ZORVIC_API int ZORVIC_CALL MirrorEx(const BITMAP* src, BITMAP* dst, int axis);
+
+/** Draws a premultiplied image of four bytes per pixel over the first pixels of another one: every byte becomes
+ *  s + d * (255 - alpha of s) / 255, rounded to nearest, at most 255. Drawing on canvases truncates instead.
+ *  \param dst  at least as large as src */
+ZORVIC_API int ZORVIC_CALL AlphaBlend_IPP(const BITMAP* src, BITMAP* dst);
+
+/** Fills an image of four bytes per pixel.
+ *  \param color      0xAARRGGBB, stored as it is
+ *  \param keepAlpha  not 0: every pixel keeps its alpha */
+ZORVIC_API int ZORVIC_CALL SetColor_IPP(BITMAP* image, DWORD color, int keepAlpha);
+
+/** Each pixel of dst becomes the pixel of src OR the value. Four bytes per pixel, and rows without gaps: the row steps
+ *  are ignored.
+ *  \param src,dst  may be the same image
+ *  \return 1 for two records of one size, whatever could be written; else 0 */
+ZORVIC_API int ZORVIC_CALL ARGBOrBitmap_IPP(const BITMAP* src, BITMAP* dst, DWORD value);
+
+/** The same with AND. */
+ZORVIC_API int ZORVIC_CALL ARGBAndBitmap_IPP(const BITMAP* src, BITMAP* dst, DWORD value);
+
+/** Blurs an image in place: twice, each channel becomes the mean of the box * box pixels around it, rounded to
+ *  nearest, edge pixels repeated. An even box reaches one pixel further to the left and top. The time does not depend
+ *  on the box.
+ *  \param stride     bytes from one row to the next; below the length of a row nothing happens
+ *  \param bitsPixel  24 or 32; other depths are left alone
+ *  \param box        1 changes nothing
+ *  \return 1, also when nothing happened or memory was short; 0 for a width, height or box below 1 and for NULL bits */
+ZORVIC_API int ZORVIC_CALL BlurBitmapData(int width, int height, int stride, void* bits, WORD bitsPixel, int box);
+
 #endif

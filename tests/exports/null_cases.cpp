@@ -246,6 +246,21 @@ const NullCase cases[] = {
     {"GeoRoundRect", [](With& o) { return Number(GeoRoundRect(nullptr, &o.rect, &o.point, nullptr)); }, 0},
     {"GeoRoundRectEx", [](With& o) { return Number(GeoRoundRectEx(nullptr, &o.rect, &o.point, 1, 1)); }, 0},
     {"GeoRectFocusEx", [](With& o) { return Number(GeoRectFocusEx(nullptr, &o.rect, 1)); }, 0},
+
+    // pixels in the host's memory; the partners' record has no pixels
+    {"CopyBitmap_IPP", [](With& o) { return Number(CopyBitmap_IPP(nullptr, &o.image, nullptr)); }, 0},
+    {"CopyBitmap_IPP", [](With& o) { return Number(CopyBitmap_IPP(&o.image, nullptr, nullptr)); }, 0},
+    {"Mirror", [](With&) { return Number(Mirror(nullptr, 0)); }, 0},
+    {"MirrorEx", [](With& o) { return Number(MirrorEx(nullptr, &o.image, 0)); }, 0},
+    {"MirrorEx", [](With& o) { return Number(MirrorEx(&o.image, nullptr, 0)); }, 0},
+    {"AlphaBlend_IPP", [](With& o) { return Number(AlphaBlend_IPP(nullptr, &o.image)); }, 0},
+    {"AlphaBlend_IPP", [](With& o) { return Number(AlphaBlend_IPP(&o.image, nullptr)); }, 0},
+    {"SetColor_IPP", [](With&) { return Number(SetColor_IPP(nullptr, 1, 0)); }, 0},
+    {"ARGBOrBitmap_IPP", [](With& o) { return Number(ARGBOrBitmap_IPP(nullptr, &o.image, 1)); }, 0},
+    {"ARGBOrBitmap_IPP", [](With& o) { return Number(ARGBOrBitmap_IPP(&o.image, nullptr, 1)); }, 0},
+    {"ARGBAndBitmap_IPP", [](With& o) { return Number(ARGBAndBitmap_IPP(nullptr, &o.image, 1)); }, 0},
+    {"ARGBAndBitmap_IPP", [](With& o) { return Number(ARGBAndBitmap_IPP(&o.image, nullptr, 1)); }, 0},
+    {"BlurBitmapData", [](With&) { return Number(BlurBitmapData(8, 8, 32, nullptr, 32, 3)); }, 0},
 };
 // clang-format on
 

@@ -72,7 +72,7 @@ TEST(BoxFilter, MatchesTheSumsOfEveryBox) {
 
 // Rounding and the sums' largest values show here: each row and column in turn, and both kinds of sums.
 TEST(BoxFilter, KeepsFlatImages) {
-    for (const int box : {1, 2, 3, 64, 4095, 4096, 4097, 65535, 1 << 28, INT32_MAX})
+    for (const int box : {1, 2, 3, 64, 4095, 4096, 4097, 5000, 65535, 1 << 28, INT32_MAX})
         for (const std::uint32_t color : {0x00000000U, 0xFFFFFFFFU, 0xFE0180FFU}) {
             Image src(7, 5), dst(7, 5);
             src.Fill([&](int, int) { return color; });
