@@ -67,8 +67,8 @@ TEST(Layouts, UniformCropsToTheShapeOfTheDestination) {
         // 84 x 52 pixels inside the margins; 20 / 100 x 84 = 16.8 rows, rounded.
         {{10, 5, 6, 3}, {0, 0, 100, 20}, false, {10, 5, 94, 22}},
         {{10, 5, 6, 3}, {0, 0, 100, 20}, true, {10, 22, 94, 39}},
-        // 10 / 100 x 52 = 5.2 columns.
-        {{10, 5, 6, 3}, {7, 0, 17, 100}, true, {49, 5, 54, 57}},
+        // 17 / 100 x 52 = 8.84 columns.
+        {{10, 5, 6, 3}, {7, 0, 24, 100}, true, {47, 5, 56, 57}},
         {{60, 0, 60, 0}, {0, 0, 50, 50}, true, {}},
         {{0, 60, 0, 0}, {0, 0, 50, 50}, false, {}},
         {{0, 0, 0, 0}, {50, 0, 0, 50}, false, {}},
@@ -219,65 +219,48 @@ TEST(Layouts, RefuseSlicesThatAreEmptyOrLeaveTheTexture) {
 }
 
 TEST(Layouts, AreChosenByTheTexturesMode) {
-    const RECT dst{3, 4, 98, 79}, margins{6, 7, 8, 9}, slice{10, 5, 43, 44}, other{};
+    const RECT dst{3, 4, 98, 79}, margins{6, 7, 8, 9}, slices[] = {{10, 5, 43, 44}, {}};
+    constexpr DWORD filter = ZORVIC_FILTER_BILINEAR;
+    constexpr BYTE alpha = 200;
     constexpr float tileScale = 1.5F;
     constexpr double scale = 2;
-    using Direct = int (*)(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const RECT* slice, const RECT* margins,
-                           DWORD filter, BYTE alpha);
-    const struct {
-        LONG layout;
-        DWORD argument;
-        Direct direct;
-    } cases[] = {
-        {ZORVIC_LAYOUT_NINE_GRID, 0xF,
-         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT* m, DWORD f, BYTE a) {
-             return DrawTexture9Grid(c, d, t, s, m, f, 0, a, 0xF, tileScale, scale);
-         }},
-        {ZORVIC_LAYOUT_NINE_GRID_FILLED, 0,
-         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT* m, DWORD f, BYTE a) {
-             return DrawTexture9Grid(c, d, t, s, m, f, 1, a, 0, tileScale, scale);
-         }},
-        {ZORVIC_LAYOUT_TILE, ZORVIC_TILE_SCALED,
-         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT*, DWORD f, BYTE a) {
-             return DrawTextureTile(c, d, t, s, f, a, ZORVIC_TILE_SCALED, tileScale);
-         }},
-        {ZORVIC_LAYOUT_CENTER, 0,
-         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT*, DWORD f, BYTE a) {
-             return DrawTextureCenter(c, d, t, s, f, a);
-         }},
-        {ZORVIC_LAYOUT_TOP_TILE, 0,
-         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT* m, DWORD f, BYTE a) {
-             return DrawTextureTopTile(c, d, t, s, m, f, a);
-         }},
-        {ZORVIC_LAYOUT_UNIFORM, 1,
-         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT*, const RECT* m, DWORD f, BYTE a) {
-             return DrawTextureUniform(c, d, t, m, f, a, true);
-         }},
-        {ZORVIC_LAYOUT_UNIFORM, 2,
-         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT*, const RECT* m, DWORD f, BYTE a) {
-             return DrawTextureUniform(c, d, t, m, f, a, false);
-         }},
-        {ZORVIC_LAYOUT_STRETCH, 1,
-         [](HGCANVAS c, const RECT* d, HGTEXTURE t, const RECT* s, const RECT*, DWORD f, BYTE a) {
-             return s ? DrawBitmapEx2(c, d, AsBitmap(t), s, f, a) : 0;
-         }},
-    };
-    for (const bool sliced : {false, true}) {
+    for (const RECT* slice : {static_cast<const RECT*>(nullptr), &slices[0]}) {
         const OwnedTexture skin = MakeSkin();
-        SetTextureFilter(skin.get(), ZORVIC_OP_SOURCE_OVER);
-        const RECT slices[] = {slice, other};
-        if (sliced) SetTextureSlice(skin.get(), 2, slices);
-        SetTextureCurSlice(skin.get(), 0);
+        const HGTEXTURE texture = skin.get();
+        SetTextureFilter(texture, ZORVIC_OP_SOURCE_OVER);
+        if (slice) SetTextureSlice(texture, 2, slices);
+        SetTextureCurSlice(texture, 0);
+        const auto grid = [&](HGCANVAS canvas, int fill, DWORD flags) {
+            return DrawTexture9Grid(canvas, &dst, texture, slice, &margins, filter, fill, alpha, flags, tileScale,
+                                    scale);
+        };
+        const auto uniform = [&](HGCANVAS canvas, bool center) {
+            return DrawTextureUniform(canvas, &dst, texture, &margins, filter, alpha, center);
+        };
+        const struct {
+            LONG layout;
+            DWORD argument;
+            std::function<int(HGCANVAS canvas)> direct;
+        } cases[] = {
+            {0, 1,
+             [&](HGCANVAS c) { return slice ? DrawBitmapEx2(c, &dst, AsBitmap(texture), slice, filter, alpha) : 0; }},
+            {1, 0xF, [&](HGCANVAS c) { return grid(c, 0, 0xF); }},
+            {2, 0x10,
+             [&](HGCANVAS c) { return DrawTextureTile(c, &dst, texture, slice, filter, alpha, 0x10, tileScale); }},
+            {3, 0, [&](HGCANVAS c) { return DrawTextureCenter(c, &dst, texture, slice, filter, alpha); }},
+            {4, 0, [&](HGCANVAS c) { return grid(c, 1, 0); }},
+            {5, 0, [&](HGCANVAS c) { return DrawTextureTopTile(c, &dst, texture, slice, &margins, filter, alpha); }},
+            {6, 1, [&](HGCANVAS c) { return uniform(c, true); }},
+            {6, 2, [&](HGCANVAS c) { return uniform(c, false); }},
+        };
         for (const auto& c : cases) {
             const TextureMode mode{c.layout, c.argument, margins};
-            SetTextureMode(skin.get(), &mode);
+            SetTextureMode(texture, &mode);
             const OwnedCanvas canvas = MakeCanvas(wholeView), wanted = MakeCanvas(wholeView);
-            EXPECT_EQ(DrawTextureEx2(canvas.get(), &dst, skin.get(), ZORVIC_FILTER_BILINEAR, 200, tileScale, scale),
-                      c.direct(wanted.get(), &dst, skin.get(), sliced ? &slice : nullptr, &margins,
-                               ZORVIC_FILTER_BILINEAR, 200))
+            EXPECT_EQ(DrawTextureEx2(canvas.get(), &dst, texture, filter, alpha, tileScale, scale),
+                      c.direct(wanted.get()))
                 << "layout " << c.layout;
             EXPECT_TRUE(Shows(canvas.get(), Snapshot(wanted.get()))) << "layout " << c.layout;
-            EXPECT_EQ(DrawTexture(canvas.get(), nullptr, skin.get(), 0), 1) << "no rectangle: nothing to do";
         }
     }
 }

@@ -62,6 +62,19 @@ TEST(Transforms, MoveThePixelsOfEveryDepth) {
         }
 }
 
+// Laws of the symmetries of a square.
+TEST(Transforms, FollowOneAnother) {
+    const std::pair<std::vector<int>, std::vector<int>> laws[] = {{{1, 1, 1, 1}, {}}, {{1, 1, 1}, {3}}, {{4, 5}, {2}},
+                                                                  {{1, 5}, {6}},      {{1, 4}, {7}},    {{6, 2}, {7}}};
+    const auto result = [](const std::vector<int>& ops) {
+        OwnedBitmap bitmap = MakeBitmap(37, 21, Pattern{});
+        for (const int op : ops) bitmap.reset(TransformBitmap(bitmap.get(), op));
+        return bitmap;
+    };
+    for (const auto& [ops, same] : laws)
+        EXPECT_TRUE(Shows(result(ops).get(), Snapshot(result(same).get()))) << "law " << ops.size() << same.size();
+}
+
 TEST(Transforms, KeepPaletteAndStoreKind) {
     for (const int colors : {0, 1, 17, 256}) {
         const OwnedBitmap source = MakeBitmap(5, 4, 8, colors);
