@@ -3,7 +3,7 @@
  * Handles.  A bitmap (HGBITMAP) is one pixel surface, in heap memory or in a GDI DIB section. A texture (HGTEXTURE) is
  *   a bitmap with a layout mode and slices; a canvas (HGCANVAS) is what everything draws on: a surface of its own, or a
  *   device context of the host. The host deletes what it created. A NULL handle gives 0 or NULL at once.
- * Pixels.  See types.h. A canvas always has 32-bit premultiplied pixels; nothing here divides by 255: a byte is scaled
+ * Pixels.  See types.h. A canvas always has 32-bit premultiplied pixels; drawing never divides by 255: a byte is scaled
  *   by k = 1..256 as (byte * k) >> 8.
  * Operation word.  Every bitmap, texture and canvas carries one, called its filter (SetBitmapFilter, SetCanvasFilter).
  *   Its top byte says how the pixels are composed when drawn, see ZORVIC_OP_COPY; the colour key has its colour in the
