@@ -63,7 +63,7 @@ Point OriginOf(const Image& image) {
 
 void SetInk(Image& image, const Ink& ink, int opacity) {
     if (ink.gradient) {
-        image.SetPattern(ink.gradient->Pattern(ink.offset - OriginOf(image), opacity));
+        image.SetPattern(ink.gradient->Pattern(ink.offset - OriginOf(image), opacity).get());
     } else {
         image.SetSolid(Premultiply(ink.color, opacity));
     }
@@ -100,7 +100,7 @@ void DrawFrom(const Drawing& drawing, const Shape& shape, int opacity, bool scal
     const bool direct = op.route == Route::replace ? solid : op.route == Route::direct && (scales || solid);
     if (!direct) ComposeCopy(drawing, shape.Extent(), opacity, [&](Image& copy) { set(copy, 255); });
 
-    cairo_t* context = drawing.image.Begin(drawing.clip);
+    cairo_t* context = drawing.image.Begin(direct ? drawing.clip : shape.Extent());
     if (direct) {
         set(drawing.image, opacity);
         cairo_set_operator(context, op.cairo);

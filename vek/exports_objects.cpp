@@ -24,11 +24,13 @@ float ToFloat(double value) {
 }
 
 template <class... Number>
-VekGradient NewGradient(Gradient gradient, Number... numbers) {
+VekGradient NewGradient(bool radial, Circle first, Circle last, Number... numbers) {
     if (!AllFinite(numbers...)) return nullptr;
     return NewHandle<VekGradient>(
-        [&] { return std::make_unique<std::shared_ptr<Gradient>>(std::make_shared<Gradient>(std::move(gradient))); });
+        [&] { return std::make_unique<std::shared_ptr<Gradient>>(std::make_shared<Gradient>(radial, first, last)); });
 }
+
+Circle CircleOf(float x, float y, float radius) { return {PointOf(x, y), std::max(static_cast<double>(radius), 0.0)}; }
 
 }  // namespace
 
@@ -105,13 +107,11 @@ int vekPathGetBounds(VekPath path, VekBounds* bounds) {
 }
 
 VekGradient vekGradientCreateLinear(float x1, float y1, float x2, float y2) {
-    return NewGradient(Gradient::Linear(PointOf(x1, y1), PointOf(x2, y2)), x1, y1, x2, y2);
+    return NewGradient(false, CircleOf(x1, y1, 0), CircleOf(x2, y2, 0), x1, y1, x2, y2);
 }
 
 VekGradient vekGradientCreateRadial(float x0, float y0, float r0, float x1, float y1, float r1) {
-    return NewGradient(
-        Gradient::Radial(PointOf(x0, y0), static_cast<double>(r0), PointOf(x1, y1), static_cast<double>(r1)), x0, y0,
-        r0, x1, y1, r1);
+    return NewGradient(true, CircleOf(x0, y0, r0), CircleOf(x1, y1, r1), x0, y0, r0, x1, y1, r1);
 }
 
 int vekGradientAddColorStop(VekGradient gradient, float offset, DWORD color) {

@@ -5,16 +5,18 @@ namespace zorvic::vek {
 
 void Gradient::AddStop(double offset, std::uint32_t color) {
     const Stop stop{std::clamp(offset, 0.0, 1.0), color};
+    const std::lock_guard lock(mutex);
     const auto after = std::upper_bound(stops.begin(), stops.end(), stop,
                                         [](const Stop& a, const Stop& b) { return a.offset < b.offset; });
     stops.insert(after, stop);
     pattern.reset();
 }
 
-cairo_pattern_t* Gradient::Pattern(Point offset, int opacity) {
+CairoPattern Gradient::Pattern(Point offset, int opacity) {
+    const std::lock_guard lock(mutex);
     if (pattern && madeOffset == offset && madeOpacity == opacity &&
         cairo_pattern_status(pattern.get()) == CAIRO_STATUS_SUCCESS) {
-        return pattern.get();
+        return CairoPattern(cairo_pattern_reference(pattern.get()));
     }
     // A line without length shows its last colour, circles that are one show nothing.
     const bool point = first == last;
@@ -34,7 +36,7 @@ cairo_pattern_t* Gradient::Pattern(Point offset, int opacity) {
     Require(cairo_pattern_status(pattern.get()));
     madeOffset = offset;
     madeOpacity = opacity;
-    return pattern.get();
+    return CairoPattern(cairo_pattern_reference(pattern.get()));
 }
 
 }  // namespace zorvic::vek

@@ -1,8 +1,8 @@
 // A gradient: its geometry, its stops, and the Cairo pattern made from them for the place where it is drawn.
 #pragma once
 
-#include <array>
 #include <cstdint>
+#include <mutex>
 #include <vector>
 
 #include "cairo_handles.h"
@@ -10,36 +10,36 @@
 
 namespace zorvic::vek {
 
+struct Circle {
+    Point center;
+    double radius = 0;
+    friend bool operator==(const Circle&, const Circle&) = default;
+};
+
+// Canvases of several threads may share a gradient, whose handle is gone.
 class Gradient {
 public:
-    static Gradient Linear(Point from, Point to) { return Gradient({from, 0}, {to, 0}, false); }
-    static Gradient Radial(Point from, double r0, Point to, double r1) {
-        return Gradient({from, std::max(r0, 0.0)}, {to, std::max(r1, 0.0)}, true);
-    }
+    // Over a family of circles, or along the line between their centres.
+    Gradient(bool isRadial, Circle a, Circle b) : radial(isRadial), first(a), last(b) {}
 
     void AddStop(double offset, std::uint32_t color);
 
-    // The pattern, moved by an offset, with all alphas scaled by opacity / 255. Valid until the next call.
-    cairo_pattern_t* Pattern(Point offset, int opacity);
+    // The pattern, moved by an offset, with all alphas scaled by opacity / 255.
+    CairoPattern Pattern(Point offset, int opacity);
 
 private:
-    struct Circle {
-        Point center;
-        double radius;
-        friend bool operator==(const Circle&, const Circle&) = default;
-    };
     struct Stop {
         double offset;
         std::uint32_t color;
     };
-    Gradient(Circle a, Circle b, bool round) : first(a), last(b), radial(round) {}
 
-    Circle first;
-    Circle last;
-    bool radial;
+    const bool radial;
+    const Circle first;
+    const Circle last;
+
+    std::mutex mutex;         // of all below
     std::vector<Stop> stops;  // by offset
-
-    CairoPattern pattern;  // made with these:
+    CairoPattern pattern;     // made with these:
     Point madeOffset;
     int madeOpacity = 0;
 };

@@ -3,8 +3,11 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <thread>
 
 #include "drawing.h"
+
+#include <psapi.h>
 
 using namespace vek_test;
 
@@ -200,6 +203,57 @@ TEST(Abuse, LargePathsTakeBoundedTime) {
         EXPECT_LT(watch.Seconds(), 30) << c.name;
         EXPECT_GE(drawing.Area(), 600 * 600 * c.area) << c.name;
     }
+}
+
+// Threads with a canvas each, sharing nothing but a gradient whose handle is gone.
+TEST(Abuse, ThreadsDrawTheSame) {
+    OwnedGradient gradient(vekGradientCreateLinear(0, 0, 60, 60));
+    vekGradientAddColorStop(gradient.get(), 0, 0xFFFF0000);
+    vekGradientAddColorStop(gradient.get(), 1, 0x400000FF);
+    std::vector<Drawing> drawings;
+    for (int i = 0; i < 4; ++i) vekCanvasSetGradient(drawings.emplace_back(64, 64), gradient.get());
+    gradient.reset();
+    const auto draw = [](Drawing& drawing) {
+        std::mt19937 random(6);
+        const OwnedPath path = MakePath();
+        vekPathAddCircle(path.get(), 30, 30, 25);
+        for (int i = 0; i < 1500; ++i) {
+            SetRandomStyle(drawing, random);
+            vekCanvasSave(drawing);
+            vekCanvasTranslate(drawing, static_cast<float>(i % 7), 0);
+            vekCanvasDrawPath(drawing, path.get());
+            vekCanvasRestore(drawing);
+        }
+    };
+    std::vector<std::thread> threads;
+    for (std::size_t i = 1; i < drawings.size(); ++i) threads.emplace_back([&, i] { draw(drawings[i]); });
+    draw(drawings[0]);
+    for (std::thread& thread : threads) thread.join();
+    for (const Drawing& drawing : drawings) EXPECT_EQ(drawing.words, drawings[0].words);
+}
+
+TEST(Abuse, CyclesLeakNothing) {
+    const auto committed = [] {
+        PROCESS_MEMORY_COUNTERS counters{};
+        GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+        return counters.PagefileUsage;
+    };
+    const auto cycle = [] {
+        for (int mode = 0; mode < 27; ++mode) {
+            Drawing drawing(64, 64);
+            const OwnedPath path = MakePath();
+            const float floats[] = {10, 10, 30, 40, 20, 25};
+            vekCanvasSetDrawStyle(drawing, mode % 3);
+            vekCanvasSetBlendMode(drawing, mode);
+            vekCanvasSaveLayer(drawing, nullptr, 99);
+            for (const FloatCall& call : floatCalls) call.call(drawing, path.get(), floats);
+            vekCanvasDrawPath(drawing, path.get());
+        }
+    };
+    for (int i = 0; i < 5; ++i) cycle();
+    const SIZE_T before = committed();
+    for (int i = 0; i < 30; ++i) cycle();
+    EXPECT_LT(committed(), before + 150000) << "30 x 27 cycles";
 }
 
 #ifdef __i386__
