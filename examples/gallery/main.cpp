@@ -27,14 +27,15 @@ constexpr Page pages[]{
     {L"01-pictures.png", PicturesPage},       {L"02-fills.png", FillsPage},
     {L"03-depths.png", DepthsPage},           {L"04-operations.png", OperationsPage},
     {L"05-color-key.png", ColorKeyPage},      {L"06-clip-and-origins.png", ClipPage},
-    {L"07-nearest.png", NearestPage},         {L"08-slices.png", SlicesPage},
-    {L"09-composition.png", CompositionPage}, {L"10-gdi.png", GdiPage},
-    {L"11-effects.png", EffectsPage},         {L"12-colorize.png", ColorizePage},
-    {L"13-glow-and-shadow.png", GlowPage},    {L"14-regions.png", RegionsPage},
-    {L"15-filters.png", FiltersPage},         {L"16-layouts.png", LayoutsPage},
-    {L"17-transforms.png", TransformsPage},   {L"20-shapes.png", ShapesPage},
-    {L"21-strokes.png", StrokesPage},         {L"22-blend-modes.png", BlendingPage},
-    {L"23-gradients.png", GradientsPage},     {L"24-outlines.png", OutlinesPage},
+    {L"07-nearest.png", NearestPage},         {L"08-filters.png", FiltersPage},
+    {L"09-slices.png", SlicesPage},           {L"10-layouts.png", LayoutsPage},
+    {L"11-composition.png", CompositionPage}, {L"12-gdi.png", GdiPage},
+    {L"13-transforms.png", TransformsPage},   {L"14-effects.png", EffectsPage},
+    {L"15-colorize.png", ColorizePage},       {L"16-blur.png", BlurPage},
+    {L"17-glow-and-shadow.png", GlowPage},    {L"18-regions.png", RegionsPage},
+    {L"19-shapes.png", ShapesPage},           {L"20-strokes.png", StrokesPage},
+    {L"21-blend-modes.png", BlendingPage},    {L"22-gradients.png", GradientsPage},
+    {L"23-outlines.png", OutlinesPage},
 };
 
 void DrawPages(const std::wstring& folder, const std::vector<std::wstring>& files) {

@@ -16,6 +16,7 @@ Sheet CompositionPage(const Pictures& pictures);
 Sheet GdiPage(const Pictures& pictures);
 Sheet EffectsPage(const Pictures& pictures);
 Sheet ColorizePage(const Pictures& pictures);
+Sheet BlurPage(const Pictures& pictures);
 Sheet GlowPage(const Pictures& pictures);
 Sheet RegionsPage(const Pictures& pictures);
 Sheet FiltersPage(const Pictures& pictures);
