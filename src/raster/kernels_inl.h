@@ -82,6 +82,18 @@ template <> struct Operator<Op::mixColor> { using Type = MixColor; };
 template <> struct Operator<Op::makeOpaque> { using Type = MakeOpaque; };
 // clang-format on
 
+// The operation on the samples of a row source: bicubic samples may have overshot.
+template <Op op, Rows rows>
+struct OperatorOn : Operator<op> {};
+template <>
+struct OperatorOn<Op::sourceOver, Rows::bicubic> {
+    using Type = SaturatedOver;
+};
+template <>
+struct OperatorOn<Op::constantAlpha, Rows::bicubic> {
+    using Type = AtOpacity<SaturatedOver>;
+};
+
 // A kernel's entry point: turns the argument list into a row source and an operation.
 template <Form V, WeightEncoding weights, Rows rows, Op op, SourceDepth depth, class Kernel>
 struct Entry;
@@ -89,7 +101,7 @@ struct Entry;
 template <Form V, WeightEncoding weights, Rows rows, Op op, SourceDepth depth, class... Args>
 struct Entry<V, weights, rows, op, depth, int (*)(const BitmapLockInfo&, const BitmapLockInfo&, Args...)> {
     static int Run(const BitmapLockInfo& dst, const BitmapLockInfo& src, Args... args) {
-        const typename Operator<op>::Type operation(args...);
+        const typename OperatorOn<op, rows>::Type operation(args...);
         return RunRows<V, weights, rows, depth>(dst, WholeOf(dst), src, operation);
     }
 };
@@ -98,7 +110,7 @@ template <Form V, WeightEncoding weights, Rows rows, Op op, SourceDepth depth, c
 struct Entry<V, weights, rows, op, depth,
              int (*)(const BitmapLockInfo&, const Placement&, const BitmapLockInfo&, Args...)> {
     static int Run(const BitmapLockInfo& dst, const Placement& placement, const BitmapLockInfo& src, Args... args) {
-        const typename Operator<op>::Type operation(args...);
+        const typename OperatorOn<op, rows>::Type operation(args...);
         return RunRows<V, weights, rows, depth>(dst, placement, src, operation);
     }
 };

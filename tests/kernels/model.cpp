@@ -165,6 +165,12 @@ Channels Scaled(const Channels& c, std::uint32_t k) {
 // The words are added, as 32-bit numbers.
 std::uint32_t Over(const Channels& d, const Channels& s) { return Join(s) + Join(Scaled(d, 256 - s.of[alpha])); }
 
+// Of samples that may have overshot: each channel stops at 255.
+std::uint32_t OverOvershot(const Channels& d, const Channels& s) {
+    const Channels rest = Scaled(d, 256 - s.of[alpha]);
+    return Join(EachChannel([&](int i) { return std::min(s.of[i] + rest.of[i], 255U); }));
+}
+
 std::uint32_t Mixed(Op op, std::uint32_t dst, std::uint32_t src, std::uint32_t amount) {
     if (amount == 0) return dst;
     if (amount == 255) return src;
@@ -174,15 +180,16 @@ std::uint32_t Mixed(Op op, std::uint32_t dst, std::uint32_t src, std::uint32_t a
     return Join(EachChannel([&](int i) { return d.of[i] * (256 - k) / 256 + s.of[i] * k / 256; }));
 }
 
-std::uint32_t Result(Op op, std::uint32_t dst, std::uint32_t src, std::uint32_t argument) {
+std::uint32_t Result(Rows rows, Op op, std::uint32_t dst, std::uint32_t src, std::uint32_t argument) {
     const Channels d = Split(dst), s = Split(src);
+    const auto over = rows == bicubic ? OverOvershot : Over;
     switch (op) {
         case copy:
             return src;
         case sourceOver:
-            return Over(d, s);
+            return over(d, s);
         case constantAlpha:
-            return Over(d, Scaled(s, argument % 256 + 1));
+            return over(d, Scaled(s, argument % 256 + 1));
         case opaqueAlpha:
             return Over(d, Scaled({{s.of[blue], s.of[green], s.of[red], 255}}, argument % 256 + 1));
         case colorKey:
@@ -227,7 +234,8 @@ void DrawByModel(int slot, const Job& job) {
             const std::int64_t column = job.placement.left + x, row = job.placement.top + y;
             const std::uint32_t sample =
                 meaning.rows == solid ? job.color : Sample(meaning.rows, job.src, job.placement, column, row);
-            WritePixelBytes(job.dst, x, y, Result(meaning.op, ReadPixelBytes(job.dst, x, y), sample, job.argument));
+            WritePixelBytes(job.dst, x, y,
+                            Result(meaning.rows, meaning.op, ReadPixelBytes(job.dst, x, y), sample, job.argument));
         }
 }
 

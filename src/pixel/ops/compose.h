@@ -21,19 +21,22 @@ struct SourceOver {
     }
 };
 
-// Source-over of the sample at an opacity; 255 leaves the sample as it is.
-class ConstantAlpha {
+// A composition of the sample at an opacity; 255 leaves the sample as it is.
+template <class Composition>
+class AtOpacity {
 public:
-    explicit ConstantAlpha(std::uint8_t alpha) : factor(alpha + 1) {}
+    explicit AtOpacity(std::uint8_t alpha) : factor(alpha + 1) {}
 
     template <PixelForm V>
     V operator()(V dst, V src) const {
-        return SourceOver{}(dst, Scale(src, V::Uniform(factor)));
+        return Composition{}(dst, Scale(src, V::Uniform(factor)));
     }
 
 private:
     int factor;
 };
+
+using ConstantAlpha = AtOpacity<SourceOver>;
 
 }  // namespace
 }  // namespace zorvic

@@ -10,6 +10,7 @@ template <class V>
 concept Form = PixelForm<V> && requires(V v, typename V::Weight k, const std::uint32_t* in) {
     { V::LoadWeights(in) } -> std::same_as<typename V::Weight>;  // one factor, 0..256, from every 32-bit word
     { AddBytes(v, v) } -> std::same_as<V>;                       // every byte by itself, modulo 256
+    { AddSaturated(v, v) } -> std::same_as<V>;                   // every byte by itself, at most 255
     { MixBytes(v, k, v, k) } -> std::same_as<V>;                 // every byte (a x k + b x l) >> 8, k + l <= 256
     // Every byte of four taps weighted by fractions 0..255: with c = k x l >> 8 the sum of v x (256 - k - l + c), v x
     // (k - c), v x (l - c) and v x c, >> 8.

@@ -7,6 +7,15 @@
 namespace zorvic {
 namespace {
 
+// Source-over of samples whose colour may exceed their alpha, as a filter that overshoots makes them: bytes saturate
+// instead of carrying into the next channel. The same as SourceOver for premultiplied samples.
+struct SaturatedOver {
+    template <Form V>
+    V operator()(V dst, V src) const {
+        return AddSaturated(src, Scale(dst, InverseAlpha(src)));
+    }
+};
+
 struct DestinationOver {
     template <Form V>
     V operator()(V dst, V src) const {
