@@ -64,11 +64,17 @@ const Case cases[] = {
     {"and", AndPixels, [](std::uint32_t, std::uint32_t s, std::uint32_t value) { return s & value; }},
 };
 
+// The levels that this processor has.
+std::vector<Level> Levels() {
+    std::vector<Level> levels;
+    for (const Level level : {Level::generic, Level::sse2, Level::avx2})
+        if (LimitLevel(level) == level) levels.push_back(level);
+    return levels;
+}
+
 class Primitives : public testing::TestWithParam<Level> {
 protected:
-    void SetUp() override {
-        if (LimitLevel(GetParam()) != GetParam()) GTEST_SKIP() << "this processor has no such form";
-    }
+    Primitives() { LimitLevel(GetParam()); }
     ~Primitives() override { LimitLevel(Level::avx2); }
 };
 
@@ -165,7 +171,7 @@ TEST_P(Primitives, RunUpwardsWithNegativeSteps) {
 }
 
 constexpr const char* levelNames[] = {"generic", "sse2", "avx2"};
-INSTANTIATE_TEST_SUITE_P(, Primitives, testing::Values(Level::generic, Level::sse2, Level::avx2),
+INSTANTIATE_TEST_SUITE_P(, Primitives, testing::ValuesIn(Levels()),
                          [](const auto& level) { return levelNames[static_cast<int>(level.param)]; });
 
 TEST(PrimitiveCalls, CopiesMoveOverlappingRows) {
