@@ -165,8 +165,8 @@ TEST(Abuse, RandomCallsEndAndStayInsideClipAndMemory) {
         for (int y = 0; y < rows; ++y)
             for (int x = 0; x < stride; ++x) {
                 const int left = x - 5, top = y - 10;
-                const bool inside = left >= std::max(clip.left, 0L) && left < std::min<LONG>(clip.right, size) &&
-                                    top >= std::max(clip.top, 0L) && top < std::min<LONG>(clip.bottom, size);
+                const bool inside = left >= std::max<LONG>(clip.left, 0) && left < std::min<LONG>(clip.right, size) &&
+                                    top >= std::max<LONG>(clip.top, 0) && top < std::min<LONG>(clip.bottom, size);
                 if (!inside) {
                     ASSERT_EQ(memory.At(x, y), before.At(x, y)) << "round " << round << ", call " << call;
                 }
