@@ -49,7 +49,7 @@ struct ShortSpan {
     };
 
     struct Total {
-        std::uint64_t sum = 0;
+        std::uint64_t sum;
         void Add(RowSum row, std::uint32_t weight) { sum += static_cast<std::uint64_t>(row) * weight; }
         std::uint32_t Over(const Mean& mean) const { return mean.Of(sum); }
     };
@@ -87,7 +87,7 @@ struct LongSpan {
     };
 
     struct Total {
-        std::uint64_t high = 0, low = 0;
+        std::uint64_t high, low;
         void Add(RowSum row, std::uint32_t weight) {
             high += (row >> lowBits) * weight;
             low += (row & lowMask) * weight;
