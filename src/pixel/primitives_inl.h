@@ -10,14 +10,14 @@ namespace zorvic {
 namespace {
 
 struct KeepAlpha {
-    template <PixelForm V>
+    template <Form V>
     V operator()(V dst, V src) const {
         return WithAlphaOf(src, dst);
     }
 };
 
 struct RoundedOver {
-    template <PixelForm V>
+    template <Form V>
     V operator()(V dst, V src) const {
         return AddSaturated(src, ScaleRounded(dst, AlphaWeight(InvertBytes(src))));
     }
@@ -25,7 +25,7 @@ struct RoundedOver {
 
 struct OrValue {
     std::uint32_t value;
-    template <PixelForm V>
+    template <Form V>
     V operator()(V, V src) const {
         return src | V::Broadcast(value);
     }
@@ -33,7 +33,7 @@ struct OrValue {
 
 struct AndValue {
     std::uint32_t value;
-    template <PixelForm V>
+    template <Form V>
     V operator()(V, V src) const {
         return src & V::Broadcast(value);
     }
@@ -49,15 +49,16 @@ inline SIZE AsOneRow(SIZE size) {
     return pixels > INT32_MAX ? size : SIZE{static_cast<LONG>(pixels), 1};
 }
 
-template <PixelForm V, class Op>
+template <Form V, class Op>
 void RunOnImage(SourcePixels src, TargetPixels dst, SIZE size, const Op& op) {
+    [[maybe_unused]] const typename V::Guard guard;
     if (IsPacked(src.step, size) && IsPacked(dst.step, size)) size = AsOneRow(size);
     const auto* from = static_cast<const std::byte*>(src.first);
     auto* to = static_cast<std::byte*>(dst.first);
     for (int y = 0; y < size.cy; ++y, from += src.step, to += dst.step) {
-        // A vector must not read pixels that an earlier lane of it is about to write.
+        // Vectors must not read pixels that an earlier one of the span writes.
         const auto ahead = reinterpret_cast<std::uintptr_t>(to) - reinterpret_cast<std::uintptr_t>(from);
-        if (ahead - 1 < sizeof(V) - 1) {
+        if (ahead - 1 < std::uintptr_t{4} * static_cast<std::uintptr_t>(size.cx) - 1) {
             ApplySpan<Baseline>(op, Words(to), Words(from), size.cx);
         } else {
             ApplySpan<V>(op, Words(to), Words(from), size.cx);
@@ -65,21 +66,22 @@ void RunOnImage(SourcePixels src, TargetPixels dst, SIZE size, const Op& op) {
     }
 }
 
-template <PixelForm V, class Op>
+template <Form V, class Op>
 void RunOnImage(SolidColor color, TargetPixels dst, SIZE size, const Op& op) {
+    [[maybe_unused]] const typename V::Guard guard;
     if (IsPacked(dst.step, size)) size = AsOneRow(size);
     auto* to = static_cast<std::byte*>(dst.first);
     for (int y = 0; y < size.cy; ++y, to += dst.step) ApplySpan<V>(op, Words(to), color, size.cx);
 }
 
 // What remains behind the last whole vector is mirrored by the same function in vectors of one pixel.
-template <PixelForm V>
+template <Form V>
 void CopyReversed(const std::uint32_t* src, std::uint32_t* dst, int n) {
     for (; n >= V::lanes; n -= V::lanes, src += V::lanes) Reversed(V::Load(src)).Store(dst + n - V::lanes);
     if constexpr (V::lanes > 1) CopyReversed<Baseline>(src, dst, n);
 }
 
-template <PixelForm V>
+template <Form V>
 void Exchange(std::uint32_t* a, std::uint32_t* b, int n) {
     for (; n >= V::lanes; n -= V::lanes, a += V::lanes, b += V::lanes) {
         const V ofA = V::Load(a), ofB = V::Load(b);
@@ -89,7 +91,7 @@ void Exchange(std::uint32_t* a, std::uint32_t* b, int n) {
     if constexpr (V::lanes > 1) Exchange<Baseline>(a, b, n);
 }
 
-template <PixelForm V>
+template <Form V>
 void ExchangeReversed(std::uint32_t* a, std::uint32_t* b, int n) {
     for (; n >= V::lanes; n -= V::lanes, a += V::lanes) {
         std::uint32_t* const mirrored = b + n - V::lanes;
@@ -100,7 +102,7 @@ void ExchangeReversed(std::uint32_t* a, std::uint32_t* b, int n) {
     if constexpr (V::lanes > 1) ExchangeReversed<Baseline>(a, b, n);
 }
 
-template <PixelForm V>
+template <Form V>
 consteval PrimitiveSet MakePrimitives() {
     return {
         .set = [](TargetPixels dst, SIZE size,

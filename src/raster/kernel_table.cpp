@@ -37,30 +37,45 @@ constexpr Overlay overlays[] = {
     {Stage::mmx, AllBut({9, 10, 11, 16, 20, 21, 22, 61, 63, 67})},
     {Stage::sse, Only({8, 16, 67, 68, 91})},
     {Stage::sse2, Only({8, 9, 10, 11, 20, 21, 22})},
-    {Stage::primitives, Only({52, 59, 91, 98})},
+    {Stage::wide, AllBut({})},
+    {Stage::routed, Only({52, 59, 91, 98})},
 };
 
-// The vector stages bring the baseline form until they have one of their own; the weights in memory decide on the
-// arithmetic.
-const KernelSet& KernelsOf(Stage stage, const CpuFeatures& features) {
-    if (stage == Stage::primitives) return routedKernels;
-    return features.cpuHasMMX ? packedKernels : baselineKernels;
+const KernelSet& WidestKernels(Level level) { return level == Level::avx2 ? avx2Kernels : sse2Kernels; }
+
+const KernelSet& KernelsOf(Stage stage, const CpuFeatures& features, std::optional<Level> primitives) {
+    switch (stage) {
+        case Stage::mmx:
+            return mmxKernels;
+        case Stage::sse:
+            return sseKernels;
+        case Stage::sse2:
+            return sse2Kernels;
+        case Stage::wide:
+            return WidestKernels(*primitives);
+        case Stage::routed:
+            return routedKernels;
+        default:
+            // The weights in memory decide on the arithmetic.
+            return features.cpuHasMMX ? packedKernels : baselineKernels;
+    }
 }
 
-bool Applies(Stage stage, const CpuFeatures& features, bool primitiveLayer) {
+bool Applies(Stage stage, const CpuFeatures& features, std::optional<Level> primitives) {
     switch (stage) {
-        case Stage::baseline:
-            return true;
         case Stage::mmx:
             return features.cpuHasMMX;
         case Stage::sse:
             return features.cpuHasSSE;
         case Stage::sse2:
             return features.cpuHasSSE2;
-        case Stage::primitives:
-            return primitiveLayer;
+        case Stage::wide:
+            return features.cpuHasMMX && primitives && *primitives > Level::generic;
+        case Stage::routed:
+            return primitives.has_value();
+        default:
+            return true;
     }
-    return false;
 }
 
 }  // namespace
@@ -68,33 +83,33 @@ bool Applies(Stage stage, const CpuFeatures& features, bool primitiveLayer) {
 CpuFeatures ProcessorFeatures;
 constinit KernelSet KernelTable{};
 
-Stage StageOfSlot(int slot, const CpuFeatures& features, bool primitiveLayer) {
+Stage StageOfSlot(int slot, const CpuFeatures& features, std::optional<Level> primitives) {
     Stage last = Stage::baseline;
     for (const Overlay& overlay : overlays)
-        if (overlay.slots[static_cast<std::size_t>(slot)] && Applies(overlay.stage, features, primitiveLayer))
+        if (overlay.slots[static_cast<std::size_t>(slot)] && Applies(overlay.stage, features, primitives))
             last = overlay.stage;
     return last;
 }
 
-KernelSet MakeKernelTable(const CpuFeatures& features, bool primitiveLayer) {
+KernelSet MakeKernelTable(const CpuFeatures& features, std::optional<Level> primitives) {
     KernelSet table;
     for (int slot = 0; slot < slotCount; ++slot)
-        table.Take(slot, KernelsOf(StageOfSlot(slot, features, primitiveLayer), features));
+        table.Take(slot, KernelsOf(StageOfSlot(slot, features, primitives), features, primitives));
     return table;
 }
 
-void FillTables(const CpuFeatures& features, bool primitiveLayer) {
+void FillTables(const CpuFeatures& features, std::optional<Level> primitives) {
     ProcessorFeatures = features;
     BuildStretchFilterWeights();
     if (!features.cpuHasMMX) ClampTable = MakeClampTable();
     SavedKernels = MakeKernelTable(features);
-    KernelTable = MakeKernelTable(features, primitiveLayer);
+    KernelTable = MakeKernelTable(features, primitives);
 }
 
 void InitKernelTable() {
     CpuFeatures features;
     DetectCpuFeatures(features);
-    FillTables(features, InitPrimitives() == Status::success);
+    FillTables(features, InitPrimitives() == Status::success ? std::optional(CurrentLevel()) : std::nullopt);
 }
 
 namespace {

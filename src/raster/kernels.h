@@ -7,5 +7,6 @@ namespace zorvic {
 
 extern const KernelSet baselineKernels;
 extern const KernelSet packedKernels;  // baseline, with the bicubic arithmetic of packed filter weights
+extern const KernelSet mmxKernels, sseKernels, sse2Kernels, avx2Kernels;
 
 }  // namespace zorvic

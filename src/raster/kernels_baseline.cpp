@@ -1,5 +1,5 @@
 // The baseline form of every slot.
-#include "raster/forms/baseline.h"
+#include "pixel/forms/baseline.h"
 #include "raster/kernels.h"
 #include "raster/kernels_inl.h"
 

@@ -15,6 +15,7 @@
 #include "raster/ops/mix.h"
 #include "raster/rows/area.h"
 #include "raster/rows/bicubic.h"
+#include "raster/rows/bicubic_plain.h"
 #include "raster/rows/bilinear.h"
 #include "raster/rows/nearest.h"
 #include "raster/rows/solid.h"
@@ -23,21 +24,48 @@
 namespace zorvic {
 namespace {
 
-// The only loop over pixels. Sources that prepare columns are walked in blocks of one chunk, so that what they prepare
-// fits the stack and serves every row; others row by row.
+inline std::uint32_t* RowOf(const BitmapLockInfo& dst, int y) {
+    return reinterpret_cast<std::uint32_t*>(static_cast<std::byte*>(dst.bmBits) +
+                                            static_cast<std::ptrdiff_t>(y) * dst.bmWidthBytes);
+}
+
+// The loop for samples that are there already: one run of pixels where rows follow one another without a gap.
+template <Form V, class Source, class Operation>
+void RunRowByRow(const BitmapLockInfo& dst, const Source& rows, const Operation& op) {
+    const std::int64_t pixels = static_cast<std::int64_t>(dst.bmWidth) * dst.bmHeight;
+    if (dst.bmHeight > 0 && dst.bmWidthBytes == std::int64_t{4} * dst.bmWidth && rows.IsOneRun(dst.bmWidth) &&
+        pixels <= INT32_MAX)
+        return ApplySpan<V>(op, RowOf(dst, 0), rows.Fetch(0, 0, 0, nullptr), static_cast<int>(pixels));
+    for (int y = 0; y < dst.bmHeight; ++y) ApplySpan<V>(op, RowOf(dst, y), rows.Fetch(y, 0, 0, nullptr), dst.bmWidth);
+}
+
+// The loop for samples that have to be made, block by block of a few columns: what a source prepares for a block serves
+// all of its rows. A copy has its samples made in place.
+template <Form V, class Source, class Operation>
+void RunInBlocks(const BitmapLockInfo& dst, Source& rows, const Operation& op) {
+    alignas(64) std::uint32_t scratch[Source::blockWidth];
+    for (int x = 0; x < dst.bmWidth; x += Source::blockWidth) {
+        const int n = dst.bmWidth - x < Source::blockWidth ? dst.bmWidth - x : Source::blockWidth;
+        if constexpr (Source::preparesColumns) rows.PrepareColumns(x, n);
+        for (int y = 0; y < dst.bmHeight; ++y) {
+            std::uint32_t* const out = RowOf(dst, y) + x;
+            if constexpr (std::same_as<Operation, Copy>) {
+                const std::uint32_t* const samples = rows.Fetch(y, x, n, out);
+                if (samples != out) ApplySpan<V>(op, out, samples, n);
+            } else {
+                ApplySpan<V>(op, out, rows.Fetch(y, x, n, scratch), n);
+            }
+        }
+    }
+}
+
 template <Form V, class Source, class Operation>
 int RunKernel(const BitmapLockInfo& dst, Source rows, const Operation& op) {
-    alignas(32) std::uint32_t scratch[chunk];
-    const int blockWidth = Source::preparesColumns ? chunk : dst.bmWidth;
-    for (int block = 0; block < dst.bmWidth; block += blockWidth) {
-        const int end = dst.bmWidth - block < blockWidth ? dst.bmWidth : block + blockWidth;
-        if constexpr (Source::preparesColumns) rows.PrepareColumns(block, end - block);
-        auto* row = static_cast<std::byte*>(dst.bmBits);
-        for (int y = 0; y < dst.bmHeight; ++y, row += dst.bmWidthBytes)
-            for (int x = block; x < end; x += chunk) {
-                const int n = end - x < chunk ? end - x : chunk;
-                ApplySpan<V>(op, reinterpret_cast<std::uint32_t*>(row) + x, rows.Fetch(y, x, n, scratch), n);
-            }
+    [[maybe_unused]] const typename V::Guard guard;
+    if constexpr (Source::needsScratch) {
+        RunInBlocks<V>(dst, rows, op);
+    } else {
+        RunRowByRow<V>(dst, rows, op);
     }
     return 1;
 }
@@ -48,14 +76,18 @@ int RunRows(const BitmapLockInfo& dst, const Placement& placement, const BitmapL
     if constexpr (rows == Rows::unscaled) {
         return RunKernel<V>(dst, UnscaledRows<depth>(src, placement), op);
     } else if constexpr (rows == Rows::nearest) {
-        return RunKernel<V>(dst, NearestRows<depth>(src, placement), op);
+        return RunKernel<V>(dst, NearestRows<V, depth>(src, placement), op);
     } else if constexpr (rows == Rows::bilinear) {
         // The steps drift by a unit per pixel; at the source's own size that must not show.
         if (src.bmWidth == placement.width && src.bmHeight == placement.height)
             return RunRows<V, weights, Rows::unscaled, depth>(dst, placement, src, op);
         return RunKernel<V>(dst, BilinearRows<V, depth>(src, placement), op);
     } else if constexpr (rows == Rows::bicubic) {
-        return RunKernel<V>(dst, BicubicRows<weights, depth>(src, placement), op);
+        if constexpr (weights == WeightEncoding::plain256) {
+            return RunKernel<V>(dst, PlainBicubicRows<depth>(src, placement), op);
+        } else {
+            return RunKernel<V>(dst, BicubicRows<V, depth>(src, placement), op);
+        }
     } else {
         if (src.bmWidth < placement.width || src.bmHeight < placement.height)
             return RunRows<V, weights, Rows::bicubic, depth>(dst, placement, src, op);

@@ -1,6 +1,6 @@
 // The baseline form with the bicubic arithmetic of packed weights, which is all that processors with MMX have in
 // memory.
-#include "raster/forms/baseline.h"
+#include "pixel/forms/baseline.h"
 #include "raster/kernels.h"
 #include "raster/kernels_inl.h"
 

@@ -1,7 +1,7 @@
 // The two modulation loops, in the baseline form.
 #include "raster/modulation.h"
 
-#include "raster/forms/baseline.h"
+#include "pixel/forms/baseline.h"
 #include "raster/kernels_inl.h"
 #include "raster/ops/modulate.h"
 

@@ -26,6 +26,10 @@ struct NamedKernels {
 inline constexpr NamedKernels kernelSets[] = {
     {"baseline", &baselineKernels, false},
     {"packed", &packedKernels, true},
+    {"mmx", &mmxKernels, true},
+    {"sse", &sseKernels, true},
+    {"sse2", &sse2Kernels, true},
+    {"avx2", &avx2Kernels, true},
     {"routed_generic", &routedKernels, true, Level::generic},
     {"routed_sse2", &routedKernels, true, Level::sse2},
     {"routed_avx2", &routedKernels, true, Level::avx2},
@@ -82,7 +86,7 @@ inline std::vector<std::tuple<NamedKernels, SlotCall>> AllKernelCalls() {
     std::vector<std::tuple<NamedKernels, SlotCall>> calls;
     for (const NamedKernels& set : kernelSets)
         for (const SlotCall& call : AllSlotCalls())
-            if (set.kernels != &routedKernels || StageOfSlot(call.slot, {}, true) == Stage::primitives)
+            if (set.kernels != &routedKernels || StageOfSlot(call.slot, {}, Level::generic) == Stage::routed)
                 calls.emplace_back(set, call);
     return calls;
 }

@@ -12,41 +12,46 @@ namespace zorvic {
 namespace {
 
 // The slots unlike the others: which stages beside the baseline offer a kernel for them, the last one winning.
-// m MMX, s SSE, S SSE2, p primitive layer.
+// m MMX, s SSE, S SSE2, r routed. The widest form stands between the last two, for all of them.
 struct Offer {
     int slot;
     std::string stages;
 };
 const Offer offers[] = {{8, "msS"}, {9, "S"},   {10, "S"}, {11, "S"}, {16, "s"}, {20, "S"},  {21, "S"},   {22, "S"},
-                        {52, "mp"}, {59, "mp"}, {61, ""},  {63, ""},  {67, "s"}, {68, "ms"}, {91, "msp"}, {98, "mp"}};
+                        {52, "mr"}, {59, "mr"}, {61, ""},  {63, ""},  {67, "s"}, {68, "ms"}, {91, "msr"}, {98, "mr"}};
 
 TEST(KernelTable, EverySlotOfEveryProcessor) {
-    const std::string letters = "msSp";
-    for (std::size_t combination = 0; combination < 16; ++combination) {
-        const auto has = [&](std::size_t stage) { return (combination >> stage & 1) != 0; };
-        int count[5] = {};
-        for (int slot = 0; slot < slotCount; ++slot) {
-            const auto* offer = std::ranges::find(offers, slot, &Offer::slot);
-            int wanted = 0;
-            for (const char letter : offer == std::end(offers) ? "m" : offer->stages)
-                if (has(letters.find(letter))) wanted = static_cast<int>(letters.find(letter)) + 1;
-            const int got = static_cast<int>(StageOfSlot(slot, {true, has(0), has(1), has(2)}, has(3)));
-            EXPECT_EQ(got, wanted) << "slot " << slot << ", combination " << combination;
-            ++count[got];
-        }
-        // How many slots a stage takes when it is alone.
-        constexpr int slotsOfStage[] = {98, 5, 7, 4};
-        for (std::size_t stage = 0; stage < 4; ++stage)
-            if (combination == 1U << stage) {
-                EXPECT_EQ(count[stage + 1], slotsOfStage[stage]);
+    const std::optional<Level> levels[] = {std::nullopt, Level::generic, Level::sse2, Level::avx2};
+    for (const auto level : levels)
+        for (int combination = 0; combination < 8; ++combination) {
+            const bool mmx = (combination & 1) != 0, sse = (combination & 2) != 0, sse2 = (combination & 4) != 0;
+            int count[6] = {};
+            for (int slot = 0; slot < slotCount; ++slot) {
+                const auto* const offer = std::ranges::find(offers, slot, &Offer::slot);
+                const std::string stages = offer == std::end(offers) ? "m" : offer->stages;
+                const auto offered = [&](char letter) { return stages.find(letter) != std::string::npos; };
+                Stage wanted = Stage::baseline;
+                if (mmx && offered('m')) wanted = Stage::mmx;
+                if (sse && offered('s')) wanted = Stage::sse;
+                if (sse2 && offered('S')) wanted = Stage::sse2;
+                if (mmx && level > Level::generic) wanted = Stage::wide;
+                if (level && offered('r')) wanted = Stage::routed;
+                const Stage got = StageOfSlot(slot, {true, mmx, sse, sse2}, level);
+                EXPECT_EQ(got, wanted) << "slot " << slot << ", combination " << combination;
+                ++count[static_cast<int>(got)];
             }
-    }
+            // How many slots a stage takes when it is alone.
+            constexpr int slotsOfStage[] = {0, 98, 5, 0, 7};
+            if (!level && (combination & (combination - 1)) == 0 && combination > 0) {
+                EXPECT_EQ(count[combination == 4 ? 3 : combination], slotsOfStage[combination]);
+            }
+        }
 }
 
 template <class Kernel>
 void CheckInstalled(Slot<Kernel> slot) {
     EXPECT_NE(KernelTable.At(slot), nullptr) << slot.index;
-    EXPECT_EQ(KernelTable.At(slot), MakeKernelTable(ProcessorFeatures, true).At(slot)) << slot.index;
+    EXPECT_EQ(KernelTable.At(slot), MakeKernelTable(ProcessorFeatures, CurrentLevel()).At(slot)) << slot.index;
 }
 template <class Kernel>
 void CheckInstalled(Group<Kernel> group) {

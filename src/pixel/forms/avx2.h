@@ -3,90 +3,205 @@
 
 #include <immintrin.h>
 
-#include "pixel/forms/form.h"
+#include "pixel/forms/sse2.h"
 
 namespace zorvic {
 namespace {
 
 struct Avx2 {
-    // 16 bits for every byte of the pixels that unpacking finds low and high: 0, 1, 4, 5 and 2, 3, 6, 7.
+    using Narrower = Sse2;  // for spans shorter than a vector
+
+    // The factor of a pixel twice in 16 bits.
     struct Weight {
-        __m256i low, high;
+        __m256i factors;
     };
+
+    // Blue and red, and green and alpha, of each pixel.
+    struct Wide {
+        __m256i even, odd;
+
+        friend Wide operator+(Wide a, Wide b) {
+            return {_mm256_add_epi16(a.even, b.even), _mm256_add_epi16(a.odd, b.odd)};
+        }
+        friend Wide operator-(Wide a, Wide b) {
+            return {_mm256_sub_epi16(a.even, b.even), _mm256_sub_epi16(a.odd, b.odd)};
+        }
+        friend Wide operator*(Wide a, Weight k) {
+            return {_mm256_mullo_epi16(a.even, k.factors), _mm256_mullo_epi16(a.odd, k.factors)};
+        }
+    };
+
+    // Code outside runs 128-bit instructions, which are slow while upper halves are in use.
+    struct Guard {
+        ~Guard() { _mm256_zeroupper(); }
+    };
+
     static constexpr int lanes = 8;
+    static constexpr bool picksFromWindows = true;
 
     __m256i pixels;
 
-    static Avx2 Load(const std::uint32_t* in) { return {_mm256_loadu_si256(reinterpret_cast<const __m256i*>(in))}; }
+    static Avx2 Load(const std::uint32_t* in) { return {LoadAll(in)}; }
     static Avx2 LoadPart(const std::uint32_t* in, int n) {
-        return {_mm256_maskload_epi32(reinterpret_cast<const int*>(in), First(n))};
+        return {_mm256_maskload_epi32(reinterpret_cast<const int*>(in),
+                                      _mm256_cmpgt_epi32(_mm256_set1_epi32(n), LaneNumbers()))};
     }
     static Avx2 Broadcast(std::uint32_t word) { return {_mm256_set1_epi32(static_cast<int>(word))}; }
-    static Weight Uniform(int factor) {
-        const __m256i k = _mm256_set1_epi16(static_cast<short>(factor));
-        return {k, k};
+    static Weight Uniform(int factor) { return {_mm256_set1_epi16(static_cast<short>(factor))}; }
+    static Weight LoadWeights(const std::uint32_t* in) {
+        const __m256i words = LoadAll(in);
+        return {_mm256_or_si256(words, _mm256_slli_epi32(words, 16))};
     }
-    void Store(std::uint32_t* out) const { _mm256_storeu_si256(reinterpret_cast<__m256i*>(out), pixels); }
-    void StorePart(std::uint32_t* out, int n) const {
-        _mm256_maskstore_epi32(reinterpret_cast<int*>(out), First(n), pixels);
+    static Weight ScaleWeight(Weight k, Weight l) {
+        return {_mm256_srli_epi16(_mm256_mullo_epi16(k.factors, l.factors), 8)};
     }
 
-    Weight Widened() const {
-        const __m256i zero = _mm256_setzero_si256();
-        return {_mm256_unpacklo_epi8(pixels, zero), _mm256_unpackhi_epi8(pixels, zero)};
+    // Columns that stand close together come from one or two loads, which stay inside the row.
+    template <int reach>
+    static Avx2 Pick(const std::uint32_t* row, const int* columns, int lastWindow) {
+        const __m256i all = LoadAll(columns);
+        if constexpr (reach == 0) {
+            return {_mm256_i32gather_epi32(reinterpret_cast<const int*>(row), all, 4)};
+        } else {
+            const int start = columns[0] < lastWindow ? columns[0] : lastWindow;
+            const __m256i from = _mm256_sub_epi32(all, _mm256_set1_epi32(start));
+            const __m256i near = _mm256_permutevar8x32_epi32(LoadAll(row + start), from);
+            if constexpr (reach == 1) {
+                return {near};
+            } else {
+                const int next = start + lanes < lastWindow ? start + lanes : lastWindow;
+                const __m256i fromNext = _mm256_sub_epi32(all, _mm256_set1_epi32(next));
+                const __m256i far = _mm256_permutevar8x32_epi32(LoadAll(row + next), fromNext);
+                return {_mm256_blendv_epi8(near, far, _mm256_cmpgt_epi32(from, _mm256_set1_epi32(lanes - 1)))};
+            }
+        }
     }
-    static Avx2 Narrowed(Weight w) { return {_mm256_packus_epi16(w.low, w.high)}; }
+
+    static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {
+        // Pixels p and p + 2 side by side, so that packing puts the four sums in order.
+        const auto sum = [&](int p) {
+            const __m256i pixels = _mm256_inserti128_si256(
+                _mm256_castsi128_si256(_mm_loadu_si128(reinterpret_cast<const __m128i*>(row + taps.first[p]))),
+                _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + taps.first[p + 2])), 1);
+            const __m256i pairs =
+                _mm256_broadcastsi128_si256(_mm_setr_epi8(0, -1, 4, -1, 1, -1, 5, -1, 2, -1, 6, -1, 3, -1, 7, -1));
+            const __m256i lastPairs = _mm256_broadcastsi128_si256(
+                _mm_setr_epi8(8, -1, 12, -1, 9, -1, 13, -1, 10, -1, 14, -1, 11, -1, 15, -1));
+            const __m256i first = _mm256_madd_epi16(_mm256_shuffle_epi8(pixels, pairs), LoadAll(taps.weights[p][0]));
+            const __m256i last = _mm256_madd_epi16(_mm256_shuffle_epi8(pixels, lastPairs), LoadAll(taps.weights[p][1]));
+            const __m256i all = _mm256_add_epi32(_mm256_add_epi32(first, last), _mm256_set1_epi32(horizontalRound));
+            return _mm256_srai_epi32(all, horizontalShift);
+        };
+        StoreAll(sums, _mm256_packs_epi32(sum(0), sum(1)));
+    }
+
+    static Avx2 MixSums(const std::int16_t* const* rows, int i, const RowWeights& weights) {
+        std::int32_t pairs[2];
+        std::memcpy(pairs, weights.weight, sizeof pairs);
+        const __m256i first = _mm256_set1_epi32(pairs[0]), last = _mm256_set1_epi32(pairs[1]);
+        const auto mixed = [&](int at) {
+            const __m256i r0 = LoadAll(rows[0] + at), r1 = LoadAll(rows[1] + at);
+            const __m256i r2 = LoadAll(rows[2] + at), r3 = LoadAll(rows[3] + at);
+            const auto total = [&](__m256i upper, __m256i lower) {
+                const __m256i sum = _mm256_add_epi32(_mm256_madd_epi16(upper, first), _mm256_madd_epi16(lower, last));
+                return _mm256_srai_epi32(_mm256_add_epi32(sum, _mm256_set1_epi32(verticalRound)), verticalShift);
+            };
+            return _mm256_packs_epi32(total(_mm256_unpacklo_epi16(r0, r1), _mm256_unpacklo_epi16(r2, r3)),
+                                      total(_mm256_unpackhi_epi16(r0, r1), _mm256_unpackhi_epi16(r2, r3)));
+        };
+        // Packing works in halves of 128 bits.
+        const __m256i packed = _mm256_packus_epi16(mixed(4 * i), mixed(4 * i + 16));
+        return {_mm256_permute4x64_epi64(packed, _MM_SHUFFLE(3, 1, 2, 0))};
+    }
+
+    void Store(std::uint32_t* out) const { StoreAll(out, pixels); }
+    // In pieces: masked stores are slow on many processors.
+    void StorePart(std::uint32_t* out, int n) const {
+        Sse2 rest{_mm256_castsi256_si128(pixels)};
+        if (n >= Sse2::lanes) {
+            rest.Store(out);
+            out += Sse2::lanes;
+            n -= Sse2::lanes;
+            rest = {_mm256_extracti128_si256(pixels, 1)};
+        }
+        if (n > 0) rest.StorePart(out, n);
+    }
 
     friend Avx2 operator+(Avx2 a, Avx2 b) { return {_mm256_add_epi32(a.pixels, b.pixels)}; }
     friend Avx2 operator|(Avx2 a, Avx2 b) { return {_mm256_or_si256(a.pixels, b.pixels)}; }
     friend Avx2 operator&(Avx2 a, Avx2 b) { return {_mm256_and_si256(a.pixels, b.pixels)}; }
 
 private:
-    // All bits set in the first n words.
-    static __m256i First(int n) {
-        return _mm256_cmpgt_epi32(_mm256_set1_epi32(n), _mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7));
-    }
+    static __m256i LoadAll(const void* in) { return _mm256_loadu_si256(static_cast<const __m256i*>(in)); }
+    static void StoreAll(void* out, __m256i v) { _mm256_storeu_si256(static_cast<__m256i*>(out), v); }
+    static __m256i LaneNumbers() { return _mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7); }
 };
 
-inline Avx2 Scale(Avx2 v, Avx2::Weight k) {
-    const Avx2::Weight w = v.Widened();
-    return Avx2::Narrowed({_mm256_srli_epi16(_mm256_mullo_epi16(w.low, k.low), 8),
-                           _mm256_srli_epi16(_mm256_mullo_epi16(w.high, k.high), 8)});
-}
-
-inline Avx2 ScaleRounded(Avx2 v, Avx2::Weight k) {
-    const auto scaled = [](__m256i bytes, __m256i factors) {
-        const __m256i t = _mm256_add_epi16(_mm256_mullo_epi16(bytes, factors), _mm256_set1_epi16(128));
-        return _mm256_srli_epi16(_mm256_add_epi16(t, _mm256_srli_epi16(t, 8)), 8);
-    };
-    const Avx2::Weight w = v.Widened();
-    return Avx2::Narrowed({scaled(w.low, k.low), scaled(w.high, k.high)});
-}
-
+inline Avx2 AddBytes(Avx2 a, Avx2 b) { return {_mm256_add_epi8(a.pixels, b.pixels)}; }
 inline Avx2 AddSaturated(Avx2 a, Avx2 b) { return {_mm256_adds_epu8(a.pixels, b.pixels)}; }
 inline Avx2 InvertBytes(Avx2 v) { return {_mm256_xor_si256(v.pixels, _mm256_set1_epi32(-1))}; }
-
-inline Avx2::Weight AlphaWeight(Avx2 v) {
-    const auto alphas = [](__m256i bytes) {
-        return _mm256_shufflehi_epi16(_mm256_shufflelo_epi16(bytes, 0xFF), 0xFF);  // the fourth number of each pixel
-    };
-    const Avx2::Weight w = v.Widened();
-    return {alphas(w.low), alphas(w.high)};
-}
-
-inline Avx2::Weight InverseAlpha(Avx2 v) {
-    const Avx2::Weight alpha = AlphaWeight(v);
-    const __m256i full = _mm256_set1_epi16(256);
-    return {_mm256_sub_epi16(full, alpha.low), _mm256_sub_epi16(full, alpha.high)};
-}
-
 inline Avx2 WithAlphaOf(Avx2 color, Avx2 alpha) {
-    const __m256i mask = _mm256_set1_epi32(0x00FFFFFF);
-    return {_mm256_or_si256(_mm256_and_si256(mask, color.pixels), _mm256_andnot_si256(mask, alpha.pixels))};
+    return {_mm256_blendv_epi8(color.pixels, alpha.pixels, _mm256_set1_epi32(static_cast<int>(0xFF000000)))};
+}
+inline Avx2 SelectEqual(Avx2 a, Avx2 b, Avx2 c, Avx2 d) {
+    return {_mm256_blendv_epi8(d.pixels, c.pixels, _mm256_cmpeq_epi32(a.pixels, b.pixels))};
 }
 
+// One shuffle in both halves.
+inline __m256i ShufflePixels(__m256i pixels, __m128i places) {
+    return _mm256_shuffle_epi8(pixels, _mm256_broadcastsi128_si256(places));
+}
+inline Avx2 Luma(Avx2 v) {
+    const __m256i pairs = _mm256_maddubs_epi16(v.pixels, _mm256_set1_epi32(0x00010201));
+    const __m256i gray = _mm256_srli_epi32(_mm256_madd_epi16(pairs, _mm256_set1_epi16(1)), 2);
+    return {ShufflePixels(gray, _mm_setr_epi8(0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12))};
+}
 inline Avx2 Reversed(Avx2 v) {
     return {_mm256_permutevar8x32_epi32(v.pixels, _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0))};
+}
+
+inline Avx2::Weight AlphaWeight(Avx2 v) {
+    return {ShufflePixels(v.pixels, _mm_setr_epi8(3, -1, 3, -1, 7, -1, 7, -1, 11, -1, 11, -1, 15, -1, 15, -1))};
+}
+inline Avx2::Weight InverseAlpha(Avx2 v) { return {_mm256_sub_epi16(_mm256_set1_epi16(256), AlphaWeight(v).factors)}; }
+
+inline Avx2::Wide Widened(Avx2 v) {
+    return {_mm256_and_si256(v.pixels, _mm256_set1_epi16(0xFF)), _mm256_srli_epi16(v.pixels, 8)};
+}
+inline Avx2::Wide Times256(Avx2::Wide w) { return {_mm256_slli_epi16(w.even, 8), _mm256_slli_epi16(w.odd, 8)}; }
+inline Avx2 HighBytes(Avx2::Wide w) {
+    const __m256i odd = _mm256_andnot_si256(_mm256_set1_epi16(0xFF), w.odd);
+    return {_mm256_or_si256(_mm256_srli_epi16(w.even, 8), odd)};
+}
+
+// Every byte of b by the 16-bit factor of its place, >> 8. The high half of a product needs no shift.
+inline Avx2 Products(Avx2 b, __m256i evenFactors, __m256i oddFactors) {
+    const __m256i even = _mm256_mulhi_epu16(_mm256_slli_epi16(b.pixels, 8), evenFactors);
+    const __m256i odd = _mm256_mullo_epi16(_mm256_srli_epi16(b.pixels, 8), oddFactors);
+    return {_mm256_or_si256(even, _mm256_andnot_si256(_mm256_set1_epi16(0xFF), odd))};
+}
+inline Avx2 Scale(Avx2 v, Avx2::Weight k) { return Products(v, k.factors, k.factors); }
+inline Avx2 ScaleBytes(Avx2 a, Avx2 b) {
+    const Avx2::Wide factors = Widened(a);
+    return Products(b, factors.even, factors.odd);
+}
+inline Avx2 MultiplyBytes(Avx2 a, Avx2 b) {
+    const Avx2::Wide factors = Widened(a);
+    const __m256i one = _mm256_set1_epi16(1);
+    return Products(b, _mm256_add_epi16(factors.even, one), _mm256_add_epi16(factors.odd, one));
+}
+inline Avx2 MixBytes(Avx2 a, Avx2::Weight k, Avx2 b, Avx2::Weight l) {
+    return HighBytes(Widened(a) * k + Widened(b) * l);
+}
+
+// With t = byte x k + 128 the quotient is (t + (t >> 8)) >> 8.
+inline Avx2 ScaleRounded(Avx2 v, Avx2::Weight k) {
+    const auto rounded = [](__m256i product) {
+        const __m256i t = _mm256_add_epi16(product, _mm256_set1_epi16(128));
+        return _mm256_add_epi16(t, _mm256_srli_epi16(t, 8));
+    };
+    const Avx2::Wide w = Widened(v) * k;
+    return HighBytes({rounded(w.even), rounded(w.odd)});
 }
 
 }  // namespace

@@ -8,9 +8,26 @@
 namespace zorvic {
 namespace {
 
+// Blue and red stand in the even bytes, green and alpha in the odd ones.
+constexpr std::uint32_t evenBytes = 0x00FF00FF;
+constexpr std::uint32_t oddBytes = 0xFF00FF00;
+
 struct Baseline {
     using Weight = std::uint32_t;
+
+    // Two 16-bit numbers in each word. Borrows and carries between them cancel: what the sums come to at the end lies
+    // within 16 bits.
+    struct Wide {
+        std::uint32_t even, odd;
+
+        friend Wide operator+(Wide a, Wide b) { return {a.even + b.even, a.odd + b.odd}; }
+        friend Wide operator-(Wide a, Wide b) { return {a.even - b.even, a.odd - b.odd}; }
+        friend Wide operator*(Wide a, Weight k) { return {a.even * k, a.odd * k}; }
+    };
+
+    struct Guard {};
     static constexpr int lanes = 1;
+    static constexpr bool picksFromWindows = false;
 
     std::uint32_t pixel;
 
@@ -22,7 +39,36 @@ struct Baseline {
     static Baseline LoadPart(const std::uint32_t*, int) { return {0}; }
     static Baseline Broadcast(std::uint32_t word) { return {word}; }
     static Weight LoadWeights(const std::uint32_t* in) { return *in; }
+    static Weight ScaleWeight(Weight k, Weight l) { return k * l >> 8; }
     static Weight Uniform(int factor) { return static_cast<Weight>(factor); }
+
+    template <int reach>
+    static Baseline Pick(const std::uint32_t* row, const int* columns, int) {
+        return Load(row + *columns);
+    }
+
+    static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {
+        for (int column = 0; column < 4; ++column)
+            for (int shift = 0; shift < 32; shift += 8) {
+                int sum = horizontalRound;
+                for (int tap = 0; tap < 4; ++tap)
+                    sum += static_cast<int>(Load(row + taps.first[column] + tap).pixel >> shift & 0xFF) *
+                           taps.weights[column % 2][tap / 2][column / 2][tap % 2];
+                *sums++ = static_cast<std::int16_t>(sum >> horizontalShift);
+            }
+    }
+
+    static Baseline MixSums(const std::int16_t* const* rows, int i, const RowWeights& weights) {
+        std::uint32_t pixel = 0;
+        for (int channel = 0; channel < 4; ++channel) {
+            int sum = verticalRound;
+            for (int tap = 0; tap < 4; ++tap) sum += rows[tap][4 * i + channel] * weights.weight[tap];
+            sum >>= verticalShift;
+            pixel |= static_cast<std::uint32_t>(sum < 0 ? 0 : sum > 255 ? 255 : sum) << (8 * channel);
+        }
+        return {pixel};
+    }
+
     void Store(std::uint32_t* out) const { std::memcpy(out, &pixel, sizeof pixel); }
     void StorePart(std::uint32_t*, int) const {}
 
@@ -31,26 +77,22 @@ struct Baseline {
     friend Baseline operator&(Baseline a, Baseline b) { return {a.pixel & b.pixel}; }
 };
 
-// Blue and red stand in the even bytes, green and alpha in the odd ones.
-constexpr std::uint32_t evenBytes = 0x00FF00FF;
-constexpr std::uint32_t oddBytes = 0xFF00FF00;
+inline std::uint32_t Byte(Baseline v, int shift) { return v.pixel >> shift & 0xFF; }
 
-inline Baseline Scale(Baseline v, Baseline::Weight k) {
-    const std::uint32_t even = ((v.pixel & evenBytes) * k) >> 8;
-    const std::uint32_t odd = (v.pixel >> 8 & evenBytes) * k;
-    return {(even & evenBytes) | (odd & oddBytes)};
+// Every byte f(a's byte, b's byte).
+template <class Function>
+Baseline EachByte(Baseline a, Baseline b, Function f) {
+    std::uint32_t pixel = 0;
+    for (int shift = 0; shift < 32; shift += 8) pixel |= f(Byte(a, shift), Byte(b, shift)) << shift;
+    return {pixel};
 }
 
-// Every byte x k / 255, k in 0..255, rounded to nearest: with t = byte x k + 128 that is (t + (t >> 8)) >> 8.
-inline Baseline ScaleRounded(Baseline v, Baseline::Weight k) {
-    const auto scaled = [k](std::uint32_t two) {
-        const std::uint32_t t = two * k + 0x00800080;
-        return t + (t >> 8 & evenBytes);
-    };
-    return {(scaled(v.pixel & evenBytes) >> 8 & evenBytes) | (scaled(v.pixel >> 8 & evenBytes) & oddBytes)};
+inline Baseline AddBytes(Baseline a, Baseline b) {
+    const std::uint32_t even = (a.pixel & evenBytes) + (b.pixel & evenBytes);
+    const std::uint32_t odd = (a.pixel >> 8 & evenBytes) + (b.pixel >> 8 & evenBytes);
+    return {(even & evenBytes) | (odd & evenBytes) << 8};
 }
 
-// Every byte by itself, at most 255.
 inline Baseline AddSaturated(Baseline a, Baseline b) {
     const auto sum = [](std::uint32_t x, std::uint32_t y) {
         const std::uint32_t two = x + y;
@@ -61,12 +103,38 @@ inline Baseline AddSaturated(Baseline a, Baseline b) {
 }
 
 inline Baseline InvertBytes(Baseline v) { return {~v.pixel}; }
-inline Baseline::Weight AlphaWeight(Baseline v) { return v.pixel >> 24; }
-inline Baseline::Weight InverseAlpha(Baseline v) { return 256 - (v.pixel >> 24); }
 inline Baseline WithAlphaOf(Baseline color, Baseline alpha) {
     return {(color.pixel & 0x00FFFFFF) | (alpha.pixel & 0xFF000000)};
 }
+inline Baseline SelectEqual(Baseline a, Baseline b, Baseline c, Baseline d) { return a.pixel == b.pixel ? c : d; }
+inline Baseline Luma(Baseline v) { return {(Byte(v, 0) + 2 * Byte(v, 8) + Byte(v, 16)) / 4 * 0x01010101}; }
 inline Baseline Reversed(Baseline v) { return v; }
+
+inline Baseline::Weight AlphaWeight(Baseline v) { return v.pixel >> 24; }
+inline Baseline::Weight InverseAlpha(Baseline v) { return 256 - (v.pixel >> 24); }
+
+inline Baseline::Wide Widened(Baseline v) { return {v.pixel & evenBytes, v.pixel >> 8 & evenBytes}; }
+inline Baseline::Wide Times256(Baseline::Wide w) { return {w.even << 8, w.odd << 8}; }
+inline Baseline HighBytes(Baseline::Wide w) { return {(w.even >> 8 & evenBytes) | (w.odd & oddBytes)}; }
+
+inline Baseline Scale(Baseline v, Baseline::Weight k) { return HighBytes(Widened(v) * k); }
+
+// With t = byte x k + 128 the quotient is (t + (t >> 8)) >> 8.
+inline Baseline ScaleRounded(Baseline v, Baseline::Weight k) {
+    const auto rounded = [](std::uint32_t two) { return two + 0x00800080 + ((two + 0x00800080) >> 8 & evenBytes); };
+    const Baseline::Wide w = Widened(v) * k;
+    return HighBytes({rounded(w.even), rounded(w.odd)});
+}
+
+inline Baseline MixBytes(Baseline a, Baseline::Weight k, Baseline b, Baseline::Weight l) {
+    return HighBytes(Widened(a) * k + Widened(b) * l);
+}
+inline Baseline MultiplyBytes(Baseline a, Baseline b) {
+    return EachByte(a, b, [](std::uint32_t x, std::uint32_t y) { return (x + 1) * y >> 8; });
+}
+inline Baseline ScaleBytes(Baseline a, Baseline b) {
+    return EachByte(a, b, [](std::uint32_t x, std::uint32_t y) { return x * y >> 8; });
+}
 
 }  // namespace
 }  // namespace zorvic

@@ -1,5 +1,5 @@
-// What every operation may ask for. A form is a vector of `lanes` ARGB pixels; each header beside this one wraps one
-// instruction set in it, and they hold the only intrinsics. Kernels ask for more, see raster/forms/form.h.
+// What operations and row sources may ask for. A form is a vector of `lanes` ARGB pixels; each header beside this one
+// wraps one instruction set in it, and they hold the only intrinsics.
 //
 // Everything here and in the files that use it is private to the file that compiles it, in unnamed namespaces: the
 // linker keeps one copy of a shared inline function, of std:: ones too, and might keep the one with wider instructions.
@@ -8,26 +8,69 @@
 #include <concepts>
 #include <cstdint>
 
+#include "pixel/forms/taps.h"
+
 namespace zorvic {
 namespace {
 
 template <class V>
-concept PixelForm = requires(V v, typename V::Weight k, const std::uint32_t* in, std::uint32_t* out, std::uint32_t word,
-                             int number) {
+concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std::uint32_t* in, std::uint32_t* out,
+                        std::uint32_t word, int number, const int* columns, const TapGroup& taps, std::int16_t* sums,
+                        const std::int16_t* const* rows) {
     { V::lanes } -> std::convertible_to<int>;
-    { V::Load(in) } -> std::same_as<V>;                          // any alignment
-    { V::LoadPart(in, number) } -> std::same_as<V>;              // the first 1..lanes - 1 pixels; touches no other
-    { V::Broadcast(word) } -> std::same_as<V>;                   // one pixel in every lane
-    { V::Uniform(number) } -> std::same_as<typename V::Weight>;  // one factor, 0..256, for every lane
-    { v + v } -> std::same_as<V>;                                // as 32-bit words
-    { v | v } -> std::same_as<V>;
-    { Scale(v, k) } -> std::same_as<V>;                       // every byte x k >> 8
-    { InvertBytes(v) } -> std::same_as<V>;                    // every byte 255 - a
-    { AlphaWeight(v) } -> std::same_as<typename V::Weight>;   // alpha of each pixel
-    { InverseAlpha(v) } -> std::same_as<typename V::Weight>;  // 256 - alpha of each pixel
-    { WithAlphaOf(v, v) } -> std::same_as<V>;                 // color of the first, alpha of the second
+    { V::picksFromWindows } -> std::convertible_to<bool>;
+    typename V::Guard;                                             // lives as long as vectors are in use
+    { V::Load(in) } -> std::same_as<V>;                            // any alignment
+    { V::LoadPart(in, number) } -> std::same_as<V>;                // the first 1..lanes - 1 pixels; touches no other
+    { V::Broadcast(word) } -> std::same_as<V>;                     // one pixel in every lane
+    { V::Uniform(number) } -> std::same_as<typename V::Weight>;    // one factor, 0..256, for every lane
+    { V::LoadWeights(in) } -> std::same_as<typename V::Weight>;    // one factor, 0..256, from every 32-bit word
+    { V::ScaleWeight(k, k) } -> std::same_as<typename V::Weight>;  // k x l >> 8
     v.Store(out);
     v.StorePart(out, number);
+
+    // Pixels.
+    { v + v } -> std::same_as<V>;  // as 32-bit words
+    { v | v } -> std::same_as<V>;
+    { v& v } -> std::same_as<V>;
+    { AddBytes(v, v) } -> std::same_as<V>;           // every byte by itself, modulo 256
+    { AddSaturated(v, v) } -> std::same_as<V>;       // every byte by itself, at most 255
+    { InvertBytes(v) } -> std::same_as<V>;           // every byte 255 - a
+    { WithAlphaOf(v, v) } -> std::same_as<V>;        // color of the first, alpha of the second
+    { SelectEqual(v, v, v, v) } -> std::same_as<V>;  // pixels of c where a == b, else of d
+    { Luma(v) } -> std::same_as<V>;                  // (blue + 2 x green + red) >> 2 in every byte
+    { Reversed(v) } -> std::same_as<V>;              // the last pixel first
+
+    // Products. A weight is one factor for the four bytes of each pixel.
+    { AlphaWeight(v) } -> std::same_as<typename V::Weight>;   // alpha of each pixel
+    { InverseAlpha(v) } -> std::same_as<typename V::Weight>;  // 256 - alpha of each pixel
+    { Scale(v, k) } -> std::same_as<V>;                       // every byte x k >> 8
+    { ScaleRounded(v, k) } -> std::same_as<V>;                // every byte x k / 255 to nearest, k at most 255
+    { MixBytes(v, k, v, k) } -> std::same_as<V>;              // every byte (a x k + b x l) >> 8, k + l <= 256
+    { MultiplyBytes(v, v) } -> std::same_as<V>;               // every byte (a + 1) x b >> 8
+    { ScaleBytes(v, v) } -> std::same_as<V>;                  // every byte a x b >> 8
+
+    // Every byte as a 16-bit number, modulo 65536.
+    { Widened(v) } -> std::same_as<typename V::Wide>;
+    { w + w } -> std::same_as<typename V::Wide>;
+    { w - w } -> std::same_as<typename V::Wide>;
+    { w* k } -> std::same_as<typename V::Wide>;
+    { Times256(w) } -> std::same_as<typename V::Wide>;
+    { HighBytes(w) } -> std::same_as<V>;  // every number >> 8
+
+    // The pixels of a row at ascending columns, one for each lane. reach: see Columns in rows/columns.h.
+    { V::template Pick<0>(in, columns, number) } -> std::same_as<V>;
+
+    // Four-tap filters; see taps.h.
+    V::SumTaps(in, taps, sums);
+    { V::MixSums(rows, number, RowWeights{}) } -> std::same_as<V>;
+};
+
+// Whether all pixels of a vector are of one kind; for forms that gain by looking.
+template <class V>
+concept LooksAtAlpha = requires(V v) {
+    { IsOpaque(v) } -> std::same_as<bool>;
+    { IsTransparentBlack(v) } -> std::same_as<bool>;
 };
 
 }  // namespace

@@ -11,44 +11,96 @@ namespace zorvic {
 namespace {
 
 struct Sse2 {
-    // 16 bits for every byte of pixels 0 and 1, and of 2 and 3.
+    // The factor of a pixel twice in 16 bits.
     struct Weight {
-        __m128i low, high;
+        __m128i factors;
     };
+
+    // Blue and red, and green and alpha, of each pixel.
+    struct Wide {
+        __m128i even, odd;
+
+        friend Wide operator+(Wide a, Wide b) { return {_mm_add_epi16(a.even, b.even), _mm_add_epi16(a.odd, b.odd)}; }
+        friend Wide operator-(Wide a, Wide b) { return {_mm_sub_epi16(a.even, b.even), _mm_sub_epi16(a.odd, b.odd)}; }
+        friend Wide operator*(Wide a, Weight k) {
+            return {_mm_mullo_epi16(a.even, k.factors), _mm_mullo_epi16(a.odd, k.factors)};
+        }
+    };
+
+    struct Guard {};
     static constexpr int lanes = 4;
+    static constexpr bool picksFromWindows = false;
 
     __m128i pixels;
 
-    static Sse2 Load(const std::uint32_t* in) { return {_mm_loadu_si128(reinterpret_cast<const __m128i*>(in))}; }
+    static Sse2 Load(const std::uint32_t* in) { return {LoadAll(in)}; }
     static Sse2 LoadPart(const std::uint32_t* in, int n) {
         if (n == 1) return {LoadOne(in)};
         const __m128i two = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(in));
         return {n == 2 ? two : _mm_unpacklo_epi64(two, LoadOne(in + 2))};
     }
     static Sse2 Broadcast(std::uint32_t word) { return {_mm_set1_epi32(static_cast<int>(word))}; }
-    static Weight Uniform(int factor) {
-        const __m128i k = _mm_set1_epi16(static_cast<short>(factor));
-        return {k, k};
+    static Weight Uniform(int factor) { return {_mm_set1_epi16(static_cast<short>(factor))}; }
+    static Weight LoadWeights(const std::uint32_t* in) { return {Twice(LoadAll(in))}; }
+    static Weight ScaleWeight(Weight k, Weight l) { return {_mm_srli_epi16(_mm_mullo_epi16(k.factors, l.factors), 8)}; }
+
+    template <int reach>
+    static Sse2 Pick(const std::uint32_t* row, const int* columns, int) {
+        const __m128i low = _mm_unpacklo_epi32(LoadOne(row + columns[0]), LoadOne(row + columns[1]));
+        const __m128i high = _mm_unpacklo_epi32(LoadOne(row + columns[2]), LoadOne(row + columns[3]));
+        return {_mm_unpacklo_epi64(low, high)};
     }
-    void Store(std::uint32_t* out) const { _mm_storeu_si128(reinterpret_cast<__m128i*>(out), pixels); }
+
+    static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {
+        const auto sum = [&](int column) {
+            const __m128i zero = _mm_setzero_si128();
+            const __m128i pixels = LoadAll(row + taps.first[column]);
+            const __m128i pairs = _mm_unpacklo_epi8(pixels, _mm_srli_si128(pixels, 4));
+            const __m128i lastPairs = _mm_unpacklo_epi8(_mm_srli_si128(pixels, 8), _mm_srli_si128(pixels, 12));
+            const auto& weights = taps.weights[column % 2];
+            const __m128i first = _mm_madd_epi16(_mm_unpacklo_epi8(pairs, zero), LoadAll(weights[0][column / 2]));
+            const __m128i last = _mm_madd_epi16(_mm_unpacklo_epi8(lastPairs, zero), LoadAll(weights[1][column / 2]));
+            const __m128i all = _mm_add_epi32(_mm_add_epi32(first, last), _mm_set1_epi32(horizontalRound));
+            return _mm_srai_epi32(all, horizontalShift);
+        };
+        StoreAll(sums, _mm_packs_epi32(sum(0), sum(1)));
+        StoreAll(sums + 8, _mm_packs_epi32(sum(2), sum(3)));
+    }
+
+    static Sse2 MixSums(const std::int16_t* const* rows, int i, const RowWeights& weights) {
+        std::int32_t pairs[2];
+        std::memcpy(pairs, weights.weight, sizeof pairs);
+        const __m128i first = _mm_set1_epi32(pairs[0]), last = _mm_set1_epi32(pairs[1]);
+        const auto mixed = [&](int at) {
+            const __m128i r0 = LoadAll(rows[0] + at), r1 = LoadAll(rows[1] + at);
+            const __m128i r2 = LoadAll(rows[2] + at), r3 = LoadAll(rows[3] + at);
+            const auto total = [&](__m128i upper, __m128i lower) {
+                const __m128i sum = _mm_add_epi32(_mm_madd_epi16(upper, first), _mm_madd_epi16(lower, last));
+                return _mm_srai_epi32(_mm_add_epi32(sum, _mm_set1_epi32(verticalRound)), verticalShift);
+            };
+            return _mm_packs_epi32(total(_mm_unpacklo_epi16(r0, r1), _mm_unpacklo_epi16(r2, r3)),
+                                   total(_mm_unpackhi_epi16(r0, r1), _mm_unpackhi_epi16(r2, r3)));
+        };
+        return {_mm_packus_epi16(mixed(4 * i), mixed(4 * i + 8))};
+    }
+
+    void Store(std::uint32_t* out) const { StoreAll(out, pixels); }
     void StorePart(std::uint32_t* out, int n) const {
         if (n == 1) return StoreOne(out, pixels);
         _mm_storel_epi64(reinterpret_cast<__m128i*>(out), pixels);
         if (n == 3) StoreOne(out + 2, _mm_unpackhi_epi64(pixels, pixels));
     }
 
-    // Bytes as 16-bit numbers, and back: the result's bytes are at most 255.
-    Weight Widened() const {
-        const __m128i zero = _mm_setzero_si128();
-        return {_mm_unpacklo_epi8(pixels, zero), _mm_unpackhi_epi8(pixels, zero)};
-    }
-    static Sse2 Narrowed(Weight w) { return {_mm_packus_epi16(w.low, w.high)}; }
-
     friend Sse2 operator+(Sse2 a, Sse2 b) { return {_mm_add_epi32(a.pixels, b.pixels)}; }
     friend Sse2 operator|(Sse2 a, Sse2 b) { return {_mm_or_si128(a.pixels, b.pixels)}; }
     friend Sse2 operator&(Sse2 a, Sse2 b) { return {_mm_and_si128(a.pixels, b.pixels)}; }
 
+    // The low half of every 32-bit word in both halves.
+    static __m128i Twice(__m128i words) { return _mm_or_si128(words, _mm_slli_epi32(words, 16)); }
+
 private:
+    static __m128i LoadAll(const void* in) { return _mm_loadu_si128(static_cast<const __m128i*>(in)); }
+    static void StoreAll(void* out, __m128i v) { _mm_storeu_si128(static_cast<__m128i*>(out), v); }
     static __m128i LoadOne(const std::uint32_t* in) {
         int word;
         std::memcpy(&word, in, sizeof word);
@@ -60,44 +112,78 @@ private:
     }
 };
 
-inline Sse2 Scale(Sse2 v, Sse2::Weight k) {
-    const Sse2::Weight w = v.Widened();
-    return Sse2::Narrowed(
-        {_mm_srli_epi16(_mm_mullo_epi16(w.low, k.low), 8), _mm_srli_epi16(_mm_mullo_epi16(w.high, k.high), 8)});
-}
-
-inline Sse2 ScaleRounded(Sse2 v, Sse2::Weight k) {
-    const auto scaled = [](__m128i bytes, __m128i factors) {
-        const __m128i t = _mm_add_epi16(_mm_mullo_epi16(bytes, factors), _mm_set1_epi16(128));
-        return _mm_srli_epi16(_mm_add_epi16(t, _mm_srli_epi16(t, 8)), 8);
-    };
-    const Sse2::Weight w = v.Widened();
-    return Sse2::Narrowed({scaled(w.low, k.low), scaled(w.high, k.high)});
-}
-
+inline Sse2 AddBytes(Sse2 a, Sse2 b) { return {_mm_add_epi8(a.pixels, b.pixels)}; }
 inline Sse2 AddSaturated(Sse2 a, Sse2 b) { return {_mm_adds_epu8(a.pixels, b.pixels)}; }
 inline Sse2 InvertBytes(Sse2 v) { return {_mm_xor_si128(v.pixels, _mm_set1_epi32(-1))}; }
 
-inline Sse2::Weight AlphaWeight(Sse2 v) {
-    const auto alphas = [](__m128i bytes) {
-        return _mm_shufflehi_epi16(_mm_shufflelo_epi16(bytes, 0xFF), 0xFF);  // the fourth number of both pixels
-    };
-    const Sse2::Weight w = v.Widened();
-    return {alphas(w.low), alphas(w.high)};
+// Bits of a where the mask has ones, else of b.
+inline __m128i Select(__m128i mask, __m128i a, __m128i b) {
+    return _mm_or_si128(_mm_and_si128(mask, a), _mm_andnot_si128(mask, b));
 }
-
-inline Sse2::Weight InverseAlpha(Sse2 v) {
-    const Sse2::Weight alpha = AlphaWeight(v);
-    const __m128i full = _mm_set1_epi16(256);
-    return {_mm_sub_epi16(full, alpha.low), _mm_sub_epi16(full, alpha.high)};
-}
-
 inline Sse2 WithAlphaOf(Sse2 color, Sse2 alpha) {
-    const __m128i mask = _mm_set1_epi32(0x00FFFFFF);
-    return {_mm_or_si128(_mm_and_si128(mask, color.pixels), _mm_andnot_si128(mask, alpha.pixels))};
+    return {Select(_mm_set1_epi32(0x00FFFFFF), color.pixels, alpha.pixels)};
+}
+inline Sse2 SelectEqual(Sse2 a, Sse2 b, Sse2 c, Sse2 d) {
+    return {Select(_mm_cmpeq_epi32(a.pixels, b.pixels), c.pixels, d.pixels)};
 }
 
+inline Sse2 Luma(Sse2 v) {
+    const __m128i even = _mm_and_si128(v.pixels, _mm_set1_epi16(0xFF)), odd = _mm_srli_epi16(v.pixels, 8);
+    const __m128i sum = _mm_add_epi32(_mm_madd_epi16(even, _mm_set1_epi16(1)), _mm_madd_epi16(odd, _mm_set1_epi32(2)));
+    const __m128i gray = Sse2::Twice(_mm_srli_epi32(sum, 2));
+    return {_mm_or_si128(gray, _mm_slli_epi32(gray, 8))};
+}
 inline Sse2 Reversed(Sse2 v) { return {_mm_shuffle_epi32(v.pixels, _MM_SHUFFLE(0, 1, 2, 3))}; }
+
+inline Sse2::Weight AlphaWeight(Sse2 v) { return {Sse2::Twice(_mm_srli_epi32(v.pixels, 24))}; }
+inline Sse2::Weight InverseAlpha(Sse2 v) { return {_mm_sub_epi16(_mm_set1_epi16(256), AlphaWeight(v).factors)}; }
+
+inline Sse2::Wide Widened(Sse2 v) {
+    return {_mm_and_si128(v.pixels, _mm_set1_epi16(0xFF)), _mm_srli_epi16(v.pixels, 8)};
+}
+inline Sse2::Wide Times256(Sse2::Wide w) { return {_mm_slli_epi16(w.even, 8), _mm_slli_epi16(w.odd, 8)}; }
+inline Sse2 HighBytes(Sse2::Wide w) {
+    const __m128i odd = _mm_andnot_si128(_mm_set1_epi16(0xFF), w.odd);
+    return {_mm_or_si128(_mm_srli_epi16(w.even, 8), odd)};
+}
+
+// Every byte of b by the 16-bit factor of its place, >> 8. The high half of a product needs no shift.
+inline Sse2 Products(Sse2 b, __m128i evenFactors, __m128i oddFactors) {
+    const __m128i even = _mm_mulhi_epu16(_mm_slli_epi16(b.pixels, 8), evenFactors);
+    const __m128i odd = _mm_mullo_epi16(_mm_srli_epi16(b.pixels, 8), oddFactors);
+    return {_mm_or_si128(even, _mm_andnot_si128(_mm_set1_epi16(0xFF), odd))};
+}
+inline Sse2 Scale(Sse2 v, Sse2::Weight k) { return Products(v, k.factors, k.factors); }
+inline Sse2 ScaleBytes(Sse2 a, Sse2 b) {
+    const Sse2::Wide factors = Widened(a);
+    return Products(b, factors.even, factors.odd);
+}
+inline Sse2 MultiplyBytes(Sse2 a, Sse2 b) {
+    const Sse2::Wide factors = Widened(a);
+    const __m128i one = _mm_set1_epi16(1);
+    return Products(b, _mm_add_epi16(factors.even, one), _mm_add_epi16(factors.odd, one));
+}
+inline Sse2 MixBytes(Sse2 a, Sse2::Weight k, Sse2 b, Sse2::Weight l) {
+    return HighBytes(Widened(a) * k + Widened(b) * l);
+}
+
+// With t = byte x k + 128 the quotient is (t + (t >> 8)) >> 8.
+inline Sse2 ScaleRounded(Sse2 v, Sse2::Weight k) {
+    const auto rounded = [](__m128i product) {
+        const __m128i t = _mm_add_epi16(product, _mm_set1_epi16(128));
+        return _mm_add_epi16(t, _mm_srli_epi16(t, 8));
+    };
+    const Sse2::Wide w = Widened(v) * k;
+    return HighBytes({rounded(w.even), rounded(w.odd)});
+}
+
+inline bool IsOpaque(Sse2 v) {
+    const __m128i alphas = _mm_or_si128(v.pixels, _mm_set1_epi32(0x00FFFFFF));
+    return _mm_movemask_epi8(_mm_cmpeq_epi32(alphas, _mm_set1_epi32(-1))) == 0xFFFF;
+}
+inline bool IsTransparentBlack(Sse2 v) {
+    return _mm_movemask_epi8(_mm_cmpeq_epi32(v.pixels, _mm_setzero_si128())) == 0xFFFF;
+}
 
 }  // namespace
 }  // namespace zorvic

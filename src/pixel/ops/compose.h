@@ -8,14 +8,16 @@ namespace zorvic {
 namespace {
 
 struct Copy {
-    template <PixelForm V>
+    template <Form V>
     V operator()(V, V src) const {
         return src;
     }
 };
 
 struct SourceOver {
-    template <PixelForm V>
+    static constexpr bool opaqueIsCopy = true, transparentIsNothing = true;
+
+    template <Form V>
     V operator()(V dst, V src) const {
         return src + Scale(dst, InverseAlpha(src));
     }
@@ -25,9 +27,11 @@ struct SourceOver {
 template <class Composition>
 class AtOpacity {
 public:
+    static constexpr bool transparentIsNothing = true;
+
     explicit AtOpacity(std::uint8_t alpha) : factor(alpha + 1) {}
 
-    template <PixelForm V>
+    template <Form V>
     V operator()(V dst, V src) const {
         return Composition{}(dst, Scale(src, V::Uniform(factor)));
     }

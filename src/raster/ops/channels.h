@@ -1,7 +1,7 @@
 // Operations that treat the four channels alike, or wash colour into grey.
 #pragma once
 
-#include "raster/forms/form.h"
+#include "pixel/forms/form.h"
 
 namespace zorvic {
 namespace {

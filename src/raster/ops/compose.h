@@ -1,8 +1,8 @@
 // Compositions of a sample with what is there; copy, source-over and constant alpha stand with the pixel primitives.
 #pragma once
 
+#include "pixel/forms/form.h"
 #include "pixel/ops/compose.h"
-#include "raster/forms/form.h"
 
 namespace zorvic {
 namespace {

@@ -1,7 +1,7 @@
 // Cross-fades: the low byte of a mix value is the amount a of the sample; 0 keeps the pixel, 255 replaces it.
 #pragma once
 
-#include "raster/forms/form.h"
+#include "pixel/forms/form.h"
 
 namespace zorvic {
 namespace {

@@ -1,7 +1,7 @@
 // Drawing an image in a colour: as a light map, or multiplied by the colour and drawn over.
 #pragma once
 
-#include "raster/forms/form.h"
+#include "pixel/forms/form.h"
 
 namespace zorvic {
 namespace {

@@ -99,7 +99,8 @@ struct LongSpan {
 template <class Span, SourceDepth depth>
 class AreaRows {
 public:
-    static constexpr bool preparesColumns = true;
+    static constexpr int blockWidth = chunk;
+    static constexpr bool preparesColumns = true, needsScratch = true;
 
     AreaRows(const BitmapLockInfo& source, const Placement& placement)
         : src(source),
@@ -115,7 +116,7 @@ public:
         for (int i = 0; i < n; ++i) columns[i] = CoverageAt(left + x + i, stepX);
     }
 
-    const std::uint32_t* Fetch(int y, int, int n, std::uint32_t* scratch) {
+    const std::uint32_t* Fetch(int y, int, int n, std::uint32_t* out) {
         const Coverage lines = CoverageAt(top + y, stepY);
         for (int i = 0; i < n; ++i)
             for (auto& total : totals[i]) total = {};
@@ -126,10 +127,11 @@ public:
                 for (int channel = 0; channel < 4; ++channel) totals[i][channel].Add(row.channels[i][channel], weight);
         }
         for (int i = 0; i < n; ++i) {
-            scratch[i] = 0;
-            for (int channel = 0; channel < 4; ++channel) scratch[i] |= totals[i][channel].Over(mean) << (8 * channel);
+            std::uint32_t pixel = 0;
+            for (int channel = 0; channel < 4; ++channel) pixel |= totals[i][channel].Over(mean) << (8 * channel);
+            StorePixel(out + i, pixel);
         }
-        return scratch;
+        return out;
     }
 
 private:

@@ -2,15 +2,16 @@
 // being the truncated quotient of the extents. No half-pixel offset; the truncation drifts toward the left and top.
 #pragma once
 
-#include "raster/rows/pixel.h"
+#include "raster/rows/columns.h"
 
 namespace zorvic {
 namespace {
 
-template <SourceDepth depth>
+template <Form V, SourceDepth depth>
 class NearestRows {
 public:
-    static constexpr bool preparesColumns = false;
+    static constexpr int blockWidth = 1024;
+    static constexpr bool preparesColumns = true, needsScratch = true;
 
     NearestRows(const BitmapLockInfo& source, const Placement& placement)
         : src(source),
@@ -19,20 +20,42 @@ public:
           left(placement.left),
           top(placement.top) {}
 
-    const std::uint32_t* Fetch(int y, int x, int n, std::uint32_t* scratch) const {
-        const std::byte* row = SourceRow(src, static_cast<std::ptrdiff_t>((top + y) * stepY >> 16));
-        // The position stays below the source's width, so 32 bits hold it.
+    void PrepareColumns(int x, int n) {
+        // Positions stay below the source's width, so 32 bits hold them.
         auto position = static_cast<std::uint32_t>((left + x) * stepX);
-        const auto step = static_cast<std::uint32_t>(stepX);
-        for (int i = 0; i < n; ++i, position += step)
-            scratch[i] = ReadPixel<depth>(src, row, static_cast<std::ptrdiff_t>(position >> 16));
-        return scratch;
+        columns.Prepare(n, src.bmWidth, [&](int) {
+            const auto column = static_cast<int>(position >> 16);
+            position += static_cast<std::uint32_t>(stepX);
+            return column;
+        });
+        fetchedRow = -1;
+    }
+
+    // A row that shows the same source row as the last one is that one.
+    const std::uint32_t* Fetch(int y, int, int n, std::uint32_t* out) {
+        const std::int64_t sourceRow = (top + y) * stepY >> 16;
+        if (sourceRow == fetchedRow) return fetched;
+        fetchedRow = sourceRow;
+        fetched = out;
+        const std::byte* const row = SourceRow(src, static_cast<std::ptrdiff_t>(sourceRow));
+        if constexpr (depth == SourceDepth::argb32) {
+            const auto* const pixels = reinterpret_cast<const std::uint32_t*>(row);
+            WithReach<V>(columns.ReachOfAll(), [&]<Reach reach>() {
+                StoreVectors<V>(out, n, [&](int i) { return columns.template Pick<reach>(pixels, i); });
+            });
+        } else {
+            for (int i = 0; i < n; ++i) StorePixel(out + i, ReadPixel<depth>(src, row, columns[i]));
+        }
+        return out;
     }
 
 private:
     const BitmapLockInfo& src;
     std::int64_t stepX, stepY;
     std::int64_t left, top;
+    Columns<V, blockWidth> columns;
+    std::int64_t fetchedRow = -1;
+    const std::uint32_t* fetched = nullptr;
 };
 
 }  // namespace

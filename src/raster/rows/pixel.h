@@ -8,7 +8,7 @@
 namespace zorvic {
 namespace {
 
-constexpr int chunk = 256;  // pixels fetched at once: 1 KiB stays in the first cache
+constexpr int chunk = 256;  // pixels of a filtered block: what is prepared for it stays in the first cache
 
 inline const std::byte* SourceRow(const BitmapLockInfo& src, std::ptrdiff_t y) {
     return static_cast<const std::byte*>(src.bmBits) + y * src.bmWidthBytes;
@@ -29,6 +29,8 @@ std::uint32_t ReadPixel(const BitmapLockInfo& src, const std::byte* row, std::pt
         return pixel;
     }
 }
+
+inline void StorePixel(std::uint32_t* out, std::uint32_t pixel) { std::memcpy(out, &pixel, sizeof pixel); }
 
 }  // namespace
 }  // namespace zorvic

@@ -9,18 +9,22 @@ namespace {
 template <SourceDepth depth>
 class UnscaledRows {
 public:
-    static constexpr bool preparesColumns = false;
+    static constexpr int blockWidth = chunk;
+    static constexpr bool preparesColumns = false, needsScratch = depth != SourceDepth::argb32;
 
     UnscaledRows(const BitmapLockInfo& source, const Placement& placement)
         : src(source), left(static_cast<int>(placement.left)), top(static_cast<int>(placement.top)) {}
 
-    const std::uint32_t* Fetch(int y, int x, int n, std::uint32_t* scratch) const {
+    // Whether rows of n pixels follow one another without a gap.
+    bool IsOneRun(int n) const { return src.bmWidthBytes == std::int64_t{BytesPerPixel(depth)} * n; }
+
+    const std::uint32_t* Fetch(int y, int x, int n, std::uint32_t* out) const {
         const std::byte* row = SourceRow(src, top + y);
         if constexpr (depth == SourceDepth::argb32) {
             return reinterpret_cast<const std::uint32_t*>(row) + left + x;
         } else {
-            for (int i = 0; i < n; ++i) scratch[i] = ReadPixel<depth>(src, row, left + x + i);
-            return scratch;
+            for (int i = 0; i < n; ++i) StorePixel(out + i, ReadPixel<depth>(src, row, left + x + i));
+            return out;
         }
     }
 
