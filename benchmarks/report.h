@@ -1,0 +1,23 @@
+// The results as a table for people, as JSON and as a chart.
+#pragma once
+
+#include <ostream>
+
+#include "results.h"
+
+namespace bench {
+
+struct Report {
+    std::string processor;
+    std::string form;  // empty: the DLL, in the form that it chose itself
+    std::vector<Result> results;
+
+    bool IsNarrow() const { return form == "sse2"; }
+};
+
+void PrintTable(const Report& report);
+void PrintTargets(const Report& report);
+void WriteJson(const Report& report, std::ostream& out);
+void WriteChart(const Report& report, std::ostream& out);  // SVG
+
+}  // namespace bench
