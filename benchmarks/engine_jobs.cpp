@@ -1,5 +1,6 @@
 // The pixel engine without the DLL around it: no clip, no locks.
 #include <algorithm>
+#include <optional>
 
 #include "contenders.h"
 #include "effects/pixels/box_blur.h"
@@ -19,27 +20,30 @@ BITMAP Described(const BitmapLockInfo& image) {
     return {0, image.bmWidth, image.bmHeight, image.bmWidthBytes, 1, 32, image.bmBits};
 }
 
-// What the processor would have if it ended with the form.
+// What the processor would have if it ended with the form. The narrow ones are used without the pixel primitives, whose
+// own forms they are not.
 struct Form {
     std::string_view name;
     zorvic::CpuFeatures features;
-    zorvic::Level level;
-    bool primitiveLayer;
+    std::optional<zorvic::Level> primitives;
 };
+constexpr zorvic::CpuFeatures all{true, true, true, true};
 constexpr Form forms[]{
-    {"generic", {true, false, false, false}, zorvic::Level::generic, false},
-    {"mmx", {true, true, false, false}, zorvic::Level::generic, false},
-    {"sse", {true, true, true, false}, zorvic::Level::generic, false},
-    {"sse2", {true, true, true, true}, zorvic::Level::sse2, true},
-    {"avx2", {true, true, true, true}, zorvic::Level::avx2, true},
+    {"generic", {true, false, false, false}, {}},
+    {"mmx", {true, true, false, false}, {}},
+    {"sse", {true, true, true, false}, {}},
+    {"sse2", all, zorvic::Level::sse2},
+    {"avx2", all, zorvic::Level::avx2},
 };
 
 }  // namespace
 
 bool UseForm(std::string_view name) {
     const auto* form = std::ranges::find(forms, name, &Form::name);
-    if (form == std::end(forms) || zorvic::LimitLevel(form->level) != form->level) return false;
-    zorvic::FillTables(form->features, form->primitiveLayer);
+    if (form == std::end(forms)) return false;
+    const auto level = form->primitives.value_or(zorvic::Level::generic);
+    if (zorvic::LimitLevel(level) != level) return false;
+    zorvic::FillTables(form->features, form->primitives);
     return true;
 }
 
