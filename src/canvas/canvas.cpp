@@ -3,7 +3,6 @@
 
 #include <new>
 
-#include "canvas/rect.h"
 #include "raster/kernel_table.h"
 
 namespace zorvic {
@@ -15,12 +14,6 @@ void SelectClip(HDC dc, const RECT& device) {
     const HRGN region = CreateRectRgnIndirect(&device);
     ExtSelectClipRgn(dc, region, RGN_COPY);
     DeleteObject(region);
-}
-
-RECT ClipBoxOf(HDC dc) {
-    RECT box{};
-    GetClipBox(dc, &box);
-    return box;
 }
 
 }  // namespace
@@ -71,28 +64,25 @@ int Canvas::SetWindowOrg(POINT origin, POINT* previous) {
     return Dc() ? SetWindowOrgEx(Dc(), origin.x, origin.y, previous) : 1;
 }
 
-RECT Canvas::ToDevice(const RECT& logical) const { return Offset(logical, viewportOrg - windowOrg); }
-RECT Canvas::ToLogical(const RECT& device) const { return Offset(device, windowOrg - viewportOrg); }
-
 void Canvas::SetClip(const RECT& logical) {
     const RECT device = ToDevice(logical);
     if (Dc()) SelectClip(Dc(), device);
     if (!surface) return;
     const SIZE size = surface->Size();
-    const RECT whole{0, 0, size.cx, size.cy};
-    IntersectRect(&clip, &device, &whole);
+    clip = Intersection(device, {0, 0, size.cx, size.cy});
 }
 
 void Canvas::IntersectClip(const RECT& logical) {
     if (Dc()) IntersectClipRect(Dc(), logical.left, logical.top, logical.right, logical.bottom);
-    const RECT device = ToDevice(logical);
-    const RECT former = clip;
-    IntersectRect(&clip, &former, &device);
+    clip = Intersection(clip, ToDevice(logical));
 }
 
-RECT Canvas::ClipBox() const { return Dc() ? ClipBoxOf(Dc()) : ToLogical(clip); }
-
-RECT Canvas::VisibleRect() const { return surface ? ToLogical(clip) : ClipBoxOf(hostDc); }
+RECT Canvas::ClipBox() const {
+    if (!Dc()) return ToLogical(clip);
+    RECT box{};
+    GetClipBox(Dc(), &box);
+    return box;
+}
 
 bool Canvas::SetFilter(DWORD word) {
     if (!surface) return false;

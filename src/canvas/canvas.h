@@ -6,6 +6,8 @@
 #include <optional>
 
 #include "canvas/memory_dc.h"
+#include "canvas/rect.h"
+#include "raster/image.h"
 #include "surface/bitmap.h"
 #include "vek/vekgraphic.h"
 
@@ -35,15 +37,17 @@ public:
     POINT ViewportOrg() const { return viewportOrg; }
     POINT WindowOrg() const { return windowOrg; }
 
-    RECT ToDevice(const RECT& logical) const;
-    RECT ToLogical(const RECT& device) const;
+    RECT ToDevice(const RECT& logical) const { return Offset(logical, viewportOrg - windowOrg); }
+    RECT ToLogical(const RECT& device) const { return Offset(device, windowOrg - viewportOrg); }
 
     void SetClip(const RECT& logical);
     void IntersectClip(const RECT& logical);
     // The clip in logical pixels, as the host sees it: the device context's clip box, once there is one.
     RECT ClipBox() const;
     // What drawing is clipped to, in logical pixels: the clip, or the clip box of a host's device context.
-    RECT VisibleRect() const;
+    RECT VisibleRect() const { return surface ? ToLogical(clip) : ClipBox(); }
+    // What of a rectangle drawing can reach.
+    RECT VisiblePart(const RECT& logical) const { return Intersection(VisibleRect(), logical); }
 
     // The operation word: mirrors the surface's. False without a surface.
     bool SetFilter(DWORD word);
@@ -84,11 +88,19 @@ inline Canvas* FromHandle(HGCANVAS handle) { return reinterpret_cast<Canvas*>(ha
 inline HGCANVAS ToHandle(const Canvas* canvas) { return reinterpret_cast<HGCANVAS>(const_cast<Canvas*>(canvas)); }
 
 // Pixels of an area of a canvas, given in logical pixels, for reading and writing; written back with the scope's end.
-// Several locks of one canvas may be held; what they write is brought back in the reverse order of locking.
+// Several locks of one canvas may be held; what they write is brought back in the reverse order of locking. On a device
+// context a lock costs many draws: what draws in pieces locks once around all of them.
 class CanvasLock {
 public:
-    CanvasLock(Canvas& lockedCanvas, const RECT& logicalArea);
-    ~CanvasLock();
+    CanvasLock(Canvas& lockedCanvas, const RECT& logicalArea)
+        : canvas(lockedCanvas),
+          area(logicalArea),
+          locked(!IsEmpty(area) && (canvas.surface ? LockSurface() : LockDc())) {}
+    ~CanvasLock() {
+        if (!locked) return;
+        if (copy) WriteBack();
+        if (canvas.surface) canvas.surface->Unlock();
+    }
     CanvasLock(const CanvasLock&) = delete;
     CanvasLock& operator=(const CanvasLock&) = delete;
 
@@ -97,9 +109,20 @@ public:
     const BitmapLockInfo& operator*() const { return info; }
     const BitmapLockInfo* operator->() const { return &info; }
 
+    const RECT& Area() const { return area; }
+    // The pixels of a part, in logical pixels, which lies inside the area.
+    BitmapLockInfo PartAt(const RECT& part) const {
+        return PartOf(info, part.left - area.left, part.top - area.top, part.right - part.left, part.bottom - part.top);
+    }
+
 private:
     enum class DcAccess { direct, copy, outside };
 
+    bool LockSurface() {
+        const RECT device = canvas.ToDevice(area);
+        return canvas.surface->LockEx(&info, &device);
+    }
+    bool LockDc();
     DcAccess DescribeDcPixels();
     bool DcShows(const BITMAP& image, const RECT& device) const;
     bool CopyFromDc();
@@ -107,8 +130,8 @@ private:
 
     Canvas& canvas;
     const RECT area;
-    BitmapLockInfo info{};
-    DibPixelStore copy;  // of the area of a device context whose own pixels cannot be reached
+    BitmapLockInfo info;
+    std::optional<DibPixelStore> copy;  // of the area of a device context whose own pixels cannot be reached
     bool locked;
 };
 

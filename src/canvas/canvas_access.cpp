@@ -1,36 +1,22 @@
 // Pixels of an area of a canvas: the surface's own; on a host's device context those of the selected DIB section, or a
 // copy that is written back at the end.
 #include "canvas/canvas.h"
-#include "canvas/rect.h"
 
 namespace zorvic {
 
-CanvasLock::CanvasLock(Canvas& lockedCanvas, const RECT& logicalArea) : canvas(lockedCanvas), area(logicalArea) {
-    if (canvas.surface) {
-        const RECT device = canvas.ToDevice(area);
-        locked = canvas.surface->LockEx(&info, &device);
-        return;
-    }
-    const DcAccess access = IsRectEmpty(&area) ? DcAccess::outside : DescribeDcPixels();
-    locked = access == DcAccess::direct || (access == DcAccess::copy && CopyFromDc());
-}
-
-CanvasLock::~CanvasLock() {
-    if (!locked) return;
-    if (!copy.IsEmpty()) WriteBack();
-    if (canvas.surface) canvas.surface->Unlock();
+bool CanvasLock::LockDc() {
+    const DcAccess access = DescribeDcPixels();
+    return access == DcAccess::direct || (access == DcAccess::copy && CopyFromDc());
 }
 
 CanvasLock::DcAccess CanvasLock::DescribeDcPixels() {
     const HDC dc = canvas.hostDc;
     RECT clipBox{};
-    RECT visible;
     const int regionType = GetClipBox(dc, &clipBox);
-    IntersectRect(&visible, &clipBox, &area);
     BITMAP image{};
     GetObjectW(GetCurrentObject(dc, OBJ_BITMAP), sizeof image, &image);
     // Kernels write 32-bit pixels without a look at the clip.
-    if (regionType == COMPLEXREGION || !image.bmBits || image.bmBitsPixel != 32 || !EqualRect(&visible, &area))
+    if (regionType == COMPLEXREGION || !image.bmBits || image.bmBitsPixel != 32 || Intersection(clipBox, area) != area)
         return DcAccess::copy;
 
     POINT viewportOrg{};
@@ -38,11 +24,8 @@ CanvasLock::DcAccess CanvasLock::DescribeDcPixels() {
     GetViewportOrgEx(dc, &viewportOrg);
     GetWindowOrgEx(dc, &windowOrg);
     const RECT device = Offset(area, viewportOrg - windowOrg);
-    BITMAP part = image;
-    if (!CutToArea(part, device)) return DcAccess::outside;
-    if (!DcShows(image, device)) return DcAccess::copy;
-    info = ToLockInfo(part);
-    return DcAccess::direct;
+    if (!DescribeArea(&info, image, &device)) return DcAccess::outside;
+    return DcShows(image, device) ? DcAccess::direct : DcAccess::copy;
 }
 
 // GDI describes a bottom-up DIB section exactly as a top-down one, so look: a pixel that is changed in memory must
@@ -66,11 +49,11 @@ bool CanvasLock::CopyFromDc() {
     BITMAP description{};
     description.bmWidth = area.right - area.left;
     description.bmHeight = area.bottom - area.top;
-    if (!copy.Create(&description, 0)) return false;
-    const MemoryDc memoryDc(copy.Handle());
+    if (!copy.emplace().Create(&description, 0)) return false;
+    const MemoryDc memoryDc(copy->Handle());
     BitBlt(memoryDc.Get(), 0, 0, description.bmWidth, description.bmHeight, canvas.hostDc, area.left, area.top,
            SRCCOPY);
-    return copy.LockEx(&info, nullptr);
+    return copy->LockEx(&info, nullptr);
 }
 
 void CanvasLock::WriteBack() const {

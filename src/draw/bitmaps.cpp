@@ -5,21 +5,28 @@
 
 namespace zorvic {
 
+void DrawBitmapRect(const CanvasLock& target, const RECT& dst, const Bitmap& bitmap, const RECT& src, DWORD filterMode,
+                    BYTE alpha) {
+    const RECT visible = Intersection(target.Area(), dst);
+    if (!target || IsEmpty(visible)) return;
+    const SurfaceLock source(bitmap, &src);
+    if (!source) return;
+
+    const BitmapLockInfo image = target.PartAt(visible);
+    if (visible == dst) {
+        SelectStretchKernel(image, *source, bitmap.filter, filterMode, alpha);
+    } else {
+        const Placement placement{visible.left - std::int64_t{dst.left}, visible.top - std::int64_t{dst.top},
+                                  WidthOf(dst), HeightOf(dst)};
+        SelectPlacedKernel(image, placement, *source, bitmap.filter, filterMode, alpha);
+    }
+}
+
 int DrawBitmapRect(Canvas& canvas, const RECT& dst, const Bitmap& bitmap, const RECT& src, DWORD filterMode,
                    BYTE alpha) {
-    const RECT clip = canvas.VisibleRect();
-    RECT visible;
-    if (!IntersectRect(&visible, &clip, &dst)) return 1;
-
-    const CanvasLock target(canvas, visible);
-    if (!target) return 1;
-    const SurfaceLock source(bitmap, &src);
-    if (!source) return 1;
-
-    if (EqualRect(&visible, &dst)) return SelectStretchKernel(*target, *source, bitmap.filter, filterMode, alpha);
-    const std::int64_t left = dst.left, top = dst.top;
-    const Placement placement{visible.left - left, visible.top - top, dst.right - left, dst.bottom - top};
-    return SelectPlacedKernel(*target, placement, *source, bitmap.filter, filterMode, alpha);
+    const CanvasLock target(canvas, canvas.VisiblePart(dst));
+    DrawBitmapRect(target, dst, bitmap, src, filterMode, alpha);
+    return 1;
 }
 
 int DrawWholeBitmap(Canvas& canvas, const RECT* dst, const Bitmap& bitmap, DWORD filterMode, BYTE alpha) {

@@ -6,8 +6,12 @@
 
 namespace zorvic {
 
-// Stretches src (bitmap pixels) over dst (logical pixels) by the bitmap's operation word, clipped. The visible part has
-// the pixels of the unclipped draw. Returns 1, whatever was visible or could be locked.
+// Stretches src (bitmap pixels) over dst (logical pixels) by the bitmap's operation word, clipped to what is locked of a
+// canvas. The visible part has the pixels of the unclipped draw.
+void DrawBitmapRect(const CanvasLock& target, const RECT& dst, const Bitmap& bitmap, const RECT& src, DWORD filterMode,
+                    BYTE alpha);
+
+// The same with a lock of its own. Returns 1, whatever was visible or could be locked.
 int DrawBitmapRect(Canvas& canvas, const RECT& dst, const Bitmap& bitmap, const RECT& src, DWORD filterMode,
                    BYTE alpha);
 

@@ -6,7 +6,6 @@
 #include <cstring>
 #include <limits>
 
-#include "canvas/rect.h"
 #include "raster/kernel_table.h"
 #include "raster/request.h"
 
@@ -58,9 +57,8 @@ int MixCanvasWithColor(Canvas& canvas, const RECT& rect, DWORD color, DWORD valu
 }
 
 int BlendCanvas(Canvas& dst, const RECT& dstRect, Canvas& src, const RECT& srcRect, BYTE alpha) {
-    const RECT clip = dst.VisibleRect();
-    RECT visible;
-    if (!IntersectRect(&visible, &clip, &dstRect)) return 1;
+    const RECT visible = dst.VisiblePart(dstRect);
+    if (IsEmpty(visible)) return 1;
 
     const bool composed = HasAlpha(src);
     if (!dst.Surface() || !src.Surface()) {
@@ -87,7 +85,7 @@ int BlendCanvas(Canvas& dst, const RECT& dstRect, Canvas& src, const RECT& srcRe
         if (blended) return KernelTable.At(slots::opaqueAlphaSameSize)(*target, part, alpha);
         return KernelTable.At(slots::copySameSize, depth)(*target, part);
     }
-    if (EqualRect(&visible, &dstRect)) {
+    if (visible == dstRect) {
         if (composed) return KernelTable.At(slots::overNearest, depth)(*target, *source);
         if (blended) return KernelTable.At(slots::opaqueAlphaNearest)(*target, *source, alpha);
         return KernelTable.At(slots::copyNearest, depth)(*target, *source);

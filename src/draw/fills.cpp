@@ -26,12 +26,13 @@ bool ChangesNothing(DWORD color, Operation operation) {
 int FillColor(Canvas* canvas, DWORD color, const RECT* rect, DWORD mode) {
     if (ChangesNothing(color, OperationOf(mode))) return 1;
     if (!canvas) return 0;
-    const RECT clip = canvas->VisibleRect();
-    RECT visible;
-    if (!rect || !IntersectRect(&visible, &clip, rect)) return 1;
-    const CanvasLock target(*canvas, visible);
-    if (target) SelectFillKernel(*target, color, mode);
+    if (rect) FillColor(CanvasLock(*canvas, canvas->VisiblePart(*rect)), color, *rect, mode);
     return 1;
+}
+
+void FillColor(const CanvasLock& target, DWORD color, const RECT& rect, DWORD mode) {
+    const RECT visible = Intersection(target.Area(), rect);
+    if (target && !IsEmpty(visible)) SelectFillKernel(target.PartAt(visible), color, mode);
 }
 
 }  // namespace zorvic

@@ -21,4 +21,7 @@ constexpr DWORD Premultiply(DWORD color) {
 // looked at; then a null canvas returns 0. Everything else returns 1.
 int FillColor(Canvas* canvas, DWORD color, const RECT* rect, DWORD mode);
 
+// The same clipped to what is locked of a canvas.
+void FillColor(const CanvasLock& target, DWORD color, const RECT& rect, DWORD mode);
+
 }  // namespace zorvic

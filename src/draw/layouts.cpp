@@ -17,13 +17,13 @@ std::optional<RECT> ResolveSourceRect(const Texture& texture, const RECT* slice)
     if (source.right < source.left) std::swap(source.left, source.right);
     if (source.bottom < source.top) std::swap(source.top, source.bottom);
     const bool inside = source.left >= 0 && source.top >= 0 && source.right <= size.cx && source.bottom <= size.cy;
-    if (!inside || IsRectEmpty(&source)) return {};
+    if (!inside || IsEmpty(source)) return {};
     return source;
 }
 
-void DrawPiece(Canvas& canvas, const RECT& dst, const Texture& texture, const RECT& src,
+void DrawPiece(const CanvasLock& target, const RECT& dst, const Texture& texture, const RECT& src,
                const TextureDrawParams& params) {
-    DrawBitmapRect(canvas, dst, texture, src, params.filterMode, params.alpha);
+    DrawBitmapRect(target, dst, texture, src, params.filterMode, params.alpha);
 }
 
 int DrawTexture(Canvas& canvas, const RECT& dst, const Texture& texture, const TextureDrawParams& params) {
@@ -52,7 +52,7 @@ int DrawTextureCenter(Canvas& canvas, const RECT& dst, const Texture& texture, c
                       const TextureDrawParams& params) {
     const auto source = ResolveSourceRect(texture, slice);
     if (!source) return 0;
-    if (IsRectEmpty(&dst)) return 1;
+    if (IsEmpty(dst)) return 1;
     const std::int64_t sourceWidth = WidthOf(*source), sourceHeight = HeightOf(*source);
     const std::int64_t width = WidthOf(dst), height = HeightOf(dst);
     // Half of what the fitted image leaves free; an odd pixel stays with the image.
@@ -62,8 +62,7 @@ int DrawTextureCenter(Canvas& canvas, const RECT& dst, const Texture& texture, c
     else
         insetY = (height - sourceHeight * width / sourceWidth) / 2;
     const RECT fitted = ToRect(dst.left + insetX, dst.top + insetY, dst.right - insetX, dst.bottom - insetY);
-    DrawPiece(canvas, fitted, texture, *source, params);
-    return 1;
+    return DrawBitmapRect(canvas, fitted, texture, *source, params.filterMode, params.alpha);
 }
 
 int DrawTextureUniform(Canvas& canvas, const RECT& dst, const Texture& texture, const RECT& margins, bool center,
@@ -80,8 +79,8 @@ int DrawTextureUniform(Canvas& canvas, const RECT& dst, const Texture& texture, 
         width = Truncate(aspect * static_cast<float>(height) + 0.5F);
     const std::int64_t left = margins.left + (center ? (freeWidth - width) / 2 : 0);
     const std::int64_t top = margins.top + (center ? (freeHeight - height) / 2 : 0);
-    DrawPiece(canvas, dst, texture, ToRect(left, top, left + width, top + height), params);
-    return 1;
+    const RECT source = ToRect(left, top, left + width, top + height);
+    return DrawBitmapRect(canvas, dst, texture, source, params.filterMode, params.alpha);
 }
 
 namespace {
@@ -148,19 +147,20 @@ private:
 int DrawTextureTile(Canvas& canvas, const RECT& dst, const Texture& texture, const RECT* slice, DWORD flags,
                     const TextureDrawParams& params) {
     const auto source = ResolveSourceRect(texture, slice);
-    const RECT clip = canvas.VisibleRect();
-    RECT visible;
-    if (!source || !IntersectRect(&visible, &clip, &dst)) return 0;
+    if (!source) return 0;
     Tiles tiles(*source, dst, (flags & ZORVIC_TILE_SCALED) != 0 ? params.tileScale : 1);
     if (tiles.IsEmpty()) return 0;
+    const CanvasLock target(canvas, canvas.VisiblePart(dst));
+    if (!target) return 0;
 
+    const RECT& visible = target.Area();
     const std::int64_t firstTop = StepBefore(visible.top, dst.top, tiles.Height());
     // Rows above what is visible matter only by what they cut.
     for (std::int64_t top = dst.top; top < firstTop && tiles.NextRow(); top += tiles.Height()) {
     }
     for (std::int64_t top = firstTop; top < visible.bottom; top += tiles.Height()) {
         tiles.DrawRow(top, visible.left, visible.right,
-                      [&](const RECT& tile, const RECT& shown) { DrawPiece(canvas, tile, texture, shown, params); });
+                      [&](const RECT& tile, const RECT& shown) { DrawPiece(target, tile, texture, shown, params); });
         tiles.NextRow();
     }
     return 0;
@@ -175,20 +175,20 @@ int DrawTextureTopTile(Canvas& canvas, const RECT& dst, const Texture& texture, 
     std::int64_t bandHeight = margins.top;
     if (dst.top + bandHeight > dst.bottom) bandHeight = HeightOf(dst);
     const std::int64_t bodyTop = std::int64_t{dst.top} + margins.top;
-    const bool hasBody = bodyTop < dst.bottom && margins.bottom > 0;
+    const RECT band = ToRect(dst.left, dst.top, dst.right, dst.top + bandHeight);
+    const RECT body = margins.bottom > 0 ? ToRect(dst.left, bodyTop, dst.right, dst.bottom) : RECT{};
+    const CanvasLock target(canvas, canvas.VisiblePart(Union(band, body)));
+    if (!target) return 0;
 
-    const RECT clip = canvas.VisibleRect();
     const std::int64_t step = WidthOf(*source);
-    for (std::int64_t left = StepBefore(clip.left, dst.left, step); left < std::min(clip.right, dst.right);
-         left += step) {
+    for (std::int64_t left = StepBefore(target.Area().left, dst.left, step); left < target.Area().right; left += step) {
         const std::int64_t right = std::min<std::int64_t>(left + step, dst.right);
         const std::int64_t srcRight = source->left + (right - left);
-        DrawPiece(canvas, ToRect(left, dst.top, right, dst.top + bandHeight), texture,
+        DrawPiece(target, ToRect(left, band.top, right, band.bottom), texture,
                   ToRect(source->left, source->top, srcRight, source->top + bandHeight), params);
-        if (hasBody)
-            DrawPiece(canvas, ToRect(left, bodyTop, right, dst.bottom), texture,
-                      ToRect(source->left, std::int64_t{source->bottom} - margins.bottom, srcRight, source->bottom),
-                      params);
+        DrawPiece(target, ToRect(left, body.top, right, body.bottom), texture,
+                  ToRect(source->left, std::int64_t{source->bottom} - margins.bottom, srcRight, source->bottom),
+                  params);
     }
     return 0;
 }

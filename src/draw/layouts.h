@@ -26,7 +26,7 @@ int DrawTextureTopTile(Canvas& canvas, const RECT& dst, const Texture& texture, 
 // What a slice shows of a texture, its edges in order; nothing if it is empty or leaves the texture.
 std::optional<RECT> ResolveSourceRect(const Texture& texture, const RECT* slice);
 
-void DrawPiece(Canvas& canvas, const RECT& dst, const Texture& texture, const RECT& src,
+void DrawPiece(const CanvasLock& target, const RECT& dst, const Texture& texture, const RECT& src,
                const TextureDrawParams& params);
 
 }  // namespace zorvic

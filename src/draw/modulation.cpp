@@ -10,14 +10,10 @@ int DrawModulation(Canvas& canvas, POINT corner, const Bitmap& bitmap, const REC
     const SIZE size = bitmap.Size();
     const RECT area = src ? *src : RECT{0, 0, size.cx, size.cy};
     const RECT dst = ToRect(corner.x, corner.y, corner.x + WidthOf(area), corner.y + HeightOf(area));
-    const RECT clip = canvas.VisibleRect();
-    RECT visible;
-    if (!IntersectRect(&visible, &clip, &dst)) return 1;
-
-    // What is visible of the area, in bitmap pixels; it lies inside the area, so that nothing wraps.
-    const RECT part = Offset(visible, POINT{area.left, area.top} - corner);
-    const CanvasLock target(canvas, visible);
+    const CanvasLock target(canvas, canvas.VisiblePart(dst));
     if (!target) return 1;
+    // What is visible of the area, in bitmap pixels; it lies inside the area, so that nothing wraps.
+    const RECT part = Offset(target.Area(), POINT{area.left, area.top} - corner);
     const SurfaceLock source(bitmap, &part);
     if (source) ModulateImage(*target, *source, color);
     return 1;

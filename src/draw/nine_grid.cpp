@@ -1,6 +1,8 @@
 // Cutting the grid on both sides, and drawing its pieces.
 #include "draw/nine_grid.h"
 
+#include <numeric>
+
 #include "draw/coordinates.h"
 #include "draw/fills.h"
 #include "draw/layouts.h"
@@ -48,12 +50,12 @@ std::optional<DWORD> PixelInMiddle(const Texture& texture, const RECT& rect) {
     return pixel;
 }
 
-void FillCenter(Canvas& canvas, const RECT& dst, const Texture& texture, const RECT& src, BYTE alpha) {
+void FillCenter(const CanvasLock& target, const RECT& dst, const Texture& texture, const RECT& src, BYTE alpha) {
     const auto pixel = PixelInMiddle(texture, src);
     if (!pixel) return;
     // As in draws, multiplication ignores the opacity.
     const bool multiplies = OperationOf(texture.filter) == Operation::multiply;
-    FillColor(&canvas, multiplies ? *pixel : ScaleBytes(*pixel, alpha + 1U), &dst, texture.filter);
+    FillColor(target, multiplies ? *pixel : ScaleBytes(*pixel, alpha + 1U), dst, texture.filter);
 }
 
 }  // namespace
@@ -90,11 +92,14 @@ int DrawTexture9Grid(Canvas& canvas, const RECT& dst, const Texture& texture, co
     const std::int64_t height = std::min(HeightOf(dst), HeightOf(*source));
     const NineGrid dstPieces = SplitNineGrid(dst, LimitMargins(dstMargins, width, height), params.tileScale);
     const NineGrid srcPieces = SplitNineGrid(*source, LimitMargins(srcMargins, width, height), 1);
+    const CanvasLock target(canvas,
+                            canvas.VisiblePart(std::accumulate(dstPieces.begin(), dstPieces.end(), RECT{}, Union)));
+    if (!target) return 1;
     for (std::size_t i = 0; i < dstPieces.size(); ++i) {
         if (fillCenter && i == centerPiece)
-            FillCenter(canvas, dstPieces[i], texture, srcPieces[i], params.alpha);
+            FillCenter(target, dstPieces[i], texture, srcPieces[i], params.alpha);
         else
-            DrawPiece(canvas, dstPieces[i], texture, srcPieces[i], params);
+            DrawPiece(target, dstPieces[i], texture, srcPieces[i], params);
     }
     return 1;
 }

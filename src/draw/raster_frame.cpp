@@ -1,7 +1,6 @@
 // A frame as four spans. A span is an image one pixel wide whose rows are the span's pixels, so that fills draw it.
 #include "draw/raster_frame.h"
 
-#include "canvas/rect.h"
 #include "raster/kernel_table.h"
 
 namespace zorvic {
@@ -50,9 +49,8 @@ private:
 }  // namespace
 
 int DrawRasterFrame(Canvas& canvas, const RECT& rect, DWORD color, SpanStyle style) {
-    const RECT clip = canvas.VisibleRect();
-    RECT visible;
-    if (!IntersectRect(&visible, &clip, &rect)) return 1;
+    const RECT visible = canvas.VisiblePart(rect);
+    if (IsEmpty(visible)) return 1;
     const bool top = visible.top == rect.top, bottom = visible.bottom == rect.bottom;
     const bool left = visible.left == rect.left, right = visible.right == rect.right;
     if (!top && !bottom && !left && !right) return 1;

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <limits>
 
-#include "canvas/rect.h"
 #include "canvas/vector_canvas.h"
 #include "draw/bitmaps.h"
 #include "raster/kernel_table.h"
@@ -49,7 +48,7 @@ bool WantsRounding(const TextureDrawParams& params) {
 
 int DrawRoundedTexture(Canvas& canvas, const RECT& dst, const Texture& texture, const TextureDrawParams& params) {
     const SIZE size = texture.Size();
-    const auto cut = IsRectEmpty(&dst) ? nullptr : Canvas::Create(size.cx, size.cy, StoreKind::memory, nullptr);
+    const auto cut = IsEmpty(dst) ? nullptr : Canvas::Create(size.cx, size.cy, StoreKind::memory, nullptr);
     if (!cut) return 1;
     cut->SetFilter(ZORVIC_OP_SOURCE_OVER);
 

@@ -1,7 +1,6 @@
 // Style, frame and shape of the anti-aliased fills.
 #include "draw/vector_fills.h"
 
-#include "canvas/rect.h"
 #include "draw/fills.h"
 #include "zorvic/zorvic.h"
 
@@ -52,9 +51,7 @@ int FillGradient(Canvas* canvas, DWORD from, DWORD to, const RECT* rect, Gradien
     if (Premultiply(from) == Premultiply(to) || (!down && direction != GradientDirection::leftToRight))
         return FillColor(canvas, Premultiply(from), rect, ZORVIC_OP_SOURCE_OVER);
     if (!canvas) return 0;
-    const RECT clip = canvas->VisibleRect();
-    RECT visible;
-    if (!rect || !IntersectRect(&visible, &clip, rect)) return 1;
+    if (!rect || IsEmpty(canvas->VisiblePart(*rect))) return 1;
 
     const VectorSave style(canvas->VectorCanvas());
     if (!style) return 1;

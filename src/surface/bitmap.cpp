@@ -73,13 +73,6 @@ void Bitmap::Forget() {
     filter = 0;
 }
 
-bool Bitmap::Lock(BITMAP* out, const RECT* area) const { return store && store->Lock(out, area); }
-bool Bitmap::LockEx(BitmapLockInfo* out, const RECT* area) const { return store && store->LockEx(out, area); }
-
-void Bitmap::Unlock() const {
-    if (store) store->Unlock();
-}
-
 SIZE Bitmap::Size() const {
     if (!store) return {};
     return {static_cast<LONG>(store->GetWidth()), static_cast<LONG>(store->GetHeight())};

@@ -29,9 +29,11 @@ public:
     // Gives up the store without telling anybody: what is left is an empty bitmap. For stores that were taken over.
     void Forget();
 
-    bool Lock(BITMAP* out, const RECT* area) const;
-    bool LockEx(BitmapLockInfo* out, const RECT* area) const;
-    void Unlock() const;
+    bool Lock(BITMAP* out, const RECT* area) const { return store && store->Lock(out, area); }
+    bool LockEx(BitmapLockInfo* out, const RECT* area) const { return store && store->LockEx(out, area); }
+    void Unlock() const {
+        if (store) store->Unlock();
+    }
 
     SIZE Size() const;  // 0 x 0 without a store
     std::uint8_t BitsPixel() const;
@@ -90,7 +92,7 @@ public:
 
 private:
     const Bitmap& bitmap;
-    BitmapLockInfo info{};
+    BitmapLockInfo info;
     bool locked;
 };
 

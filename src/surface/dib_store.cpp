@@ -35,20 +35,9 @@ unsigned DibPixelStore::GetWidth() const { return static_cast<unsigned>(Describe
 unsigned DibPixelStore::GetHeight() const { return static_cast<unsigned>(Describe().bmHeight); }
 std::uint8_t DibPixelStore::GetBitsPixel() const { return static_cast<std::uint8_t>(Describe().bmBitsPixel); }
 
-bool DibPixelStore::Lock(BITMAP* out, const RECT* area) const {
-    BITMAP image = Describe();
-    if (!image.bmBits || (area && !CutToArea(image, *area))) return false;
-    image.bmType = 0;
-    image.bmPlanes = 1;
-    *out = image;
-    return true;
-}
-
 bool DibPixelStore::LockEx(BitmapLockInfo* out, const RECT* area) const {
-    BITMAP image;
-    if (!Lock(&image, area)) return false;
-    *out = ToLockInfo(image);
-    return true;
+    const BITMAP image = Describe();
+    return image.bmBits && DescribeArea(out, image, area);
 }
 
 }  // namespace zorvic

@@ -2,6 +2,7 @@
 // Nothing is cached here that a lock could get wrong: a lock only computes a description of the pixels.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 
@@ -9,11 +10,31 @@
 
 namespace zorvic {
 
-// A locked image without a palette, or with one.
-BitmapLockInfo ToLockInfo(const BITMAP& image, std::uint16_t colorCount = 0, DWORD* palette = nullptr);
-
-// Cuts the description of a whole surface down to an area of it; false unless the area is non-empty and inside.
-bool CutToArea(BITMAP& image, const RECT& area);
+// Describes a whole surface, or an area of it; false, and out stays as it is, unless the area is non-empty and inside.
+// palette: null, or colorCount words. Inline, and every field is written once: this is most of what a lock costs.
+inline bool DescribeArea(BitmapLockInfo* out, const BITMAP& whole, const RECT* area, std::uint16_t colorCount = 0,
+                         DWORD* palette = nullptr) {
+    RECT part{0, 0, whole.bmWidth, whole.bmHeight};
+    if (area) {
+        if (area->left < 0 || area->top < 0 || area->right > part.right || area->bottom > part.bottom) return false;
+        if (area->left >= area->right || area->top >= area->bottom) return false;
+        part = *area;
+    }
+    auto* const first = static_cast<std::byte*>(whole.bmBits) +
+                        static_cast<std::ptrdiff_t>(part.top) * whole.bmWidthBytes +
+                        static_cast<std::ptrdiff_t>(part.left) * (whole.bmBitsPixel / 8);
+    *out = {0,
+            part.right - part.left,
+            part.bottom - part.top,
+            whole.bmWidthBytes,
+            1,
+            whole.bmBitsPixel,
+            first,
+            colorCount,
+            0,
+            palette};
+    return true;
+}
 
 enum class StoreKind : std::uint8_t { memory = 0, system = 1 };
 
@@ -32,7 +53,7 @@ public:
     virtual std::uint16_t GetColorCount() const = 0;
 
     // Describes the whole surface, or the area, which must be non-empty and inside.
-    virtual bool Lock(BITMAP* out, const RECT* area) const = 0;
+    virtual bool Lock(BITMAP* out, const RECT* area) const;  // without the palette
     virtual bool LockEx(BitmapLockInfo* out, const RECT* area) const = 0;
     virtual void Unlock() {}
 };
@@ -47,7 +68,6 @@ public:
     unsigned GetHeight() const override { return height; }
     std::uint8_t GetBitsPixel() const override { return static_cast<std::uint8_t>(bitsPixel); }
     std::uint16_t GetColorCount() const override { return colorCount; }
-    bool Lock(BITMAP* out, const RECT* area) const override;
     bool LockEx(BitmapLockInfo* out, const RECT* area) const override;
 
 private:
@@ -73,7 +93,6 @@ public:
     unsigned GetHeight() const override;
     std::uint8_t GetBitsPixel() const override;
     std::uint16_t GetColorCount() const override { return 0; }
-    bool Lock(BITMAP* out, const RECT* area) const override;
     bool LockEx(BitmapLockInfo* out, const RECT* area) const override;
 
     HBITMAP Handle() const { return handle; }

@@ -1,4 +1,6 @@
 // Drawing together with GDI: GDI on a canvas's surface, and a canvas on a host's device context of any kind.
+#include <functional>
+
 #include "support/gdi.h"
 
 using namespace host;
@@ -157,6 +159,33 @@ TEST(CanvasGdi, LocksMayReachOutside) {
         EXPECT_EQ(MixCanvasWithColor(canvas.get(), &huge, 0x80204060, 255), 1);
         EXPECT_TRUE(Shows(bitmap.Shown().get(), before)) << "too wide for a surface";
     }
+}
+
+// Layouts draw all pieces under one lock; the body of the last one begins above the destination.
+TEST(CanvasGdi, TakesLayouts) {
+    const OwnedTexture skin(CreateTexture(9, 7));
+    Fill(skin.get(), Pattern{4});
+    const RECT clip{3, 2, 37, 27}, dst{1, 9, 39, 29}, margins{2, 3, 2, 2}, raised{2, -3, 2, 2};
+    const std::function<void(HGCANVAS)> layouts[] = {
+        [&](HGCANVAS c) { DrawTexture9Grid(c, &dst, skin.get(), nullptr, &margins, 0, 0, 255, 0, 1, 1); },
+        [&](HGCANVAS c) { DrawTexture9Grid(c, &dst, skin.get(), nullptr, &margins, 0, 1, 255, 0, 1, 1); },
+        [&](HGCANVAS c) { DrawTextureTile(c, &dst, skin.get(), nullptr, 0, 255, 0, 1); },
+        [&](HGCANVAS c) { DrawTextureTopTile(c, &dst, skin.get(), nullptr, &margins, 0, 255); },
+        [&](HGCANVAS c) { DrawTextureTopTile(c, &dst, skin.get(), nullptr, &raised, 0, 255); },
+    };
+    for (const Target& target : targets)
+        for (const auto& draw : layouts) {
+            SCOPED_TRACE(testing::Message() << target.name << ", layout " << &draw - layouts);
+            const GdiBitmap bitmap = target.make(40, 30);
+            bitmap.Fill(Pattern{});
+            const OwnedCanvas canvas(CreateCanvasFromDC(bitmap.Dc())), surface(CreateCanvas(40, 30, nullptr));
+            Fill(surface.get(), Pattern{});
+            for (const HGCANVAS c : {canvas.get(), surface.get()}) {
+                SetCanvasClipRect(c, &clip);
+                draw(c);
+            }
+            EXPECT_TRUE(Keeps(target, bitmap, Snapshot(surface.get())));
+        }
 }
 
 // Both rectangles of the call are locked at once on the same device context.

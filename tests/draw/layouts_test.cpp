@@ -190,6 +190,7 @@ TEST(Layouts, TopTileStretchesTheBottomBandBelowTheTopOne) {
         {"lower than the band", {0, 2, 30, 10}, {0, 12, 0, 9}, {{{0, 2, 30, 10}, {10, 5, 40, 13}}}},
         {"no bottom margin", {0, 0, 30, 50}, {0, 12, 0, 0}, {{{0, 0, 30, 12}, {10, 5, 40, 17}}}},
         {"no top margin", {0, 0, 30, 50}, {0, 0, 0, 9}, {{{0, 0, 30, 50}, {10, 36, 40, 45}}}},
+        {"body above the top", {0, 9, 30, 50}, {0, -3, 0, 9}, {{{0, 6, 30, 50}, {10, 36, 40, 45}}}},
         {"bands beyond the texture", {0, 0, 30, 90}, {0, 56, 0, 46}, {}},
         {"reversed", {30, 0, 0, 50}, {0, 12, 0, 9}, {}},
     };
