@@ -29,10 +29,8 @@ struct Form {
 };
 constexpr zorvic::CpuFeatures all{true, true, true, true};
 constexpr Form forms[]{
-    {"generic", {true, false, false, false}, {}},
-    {"mmx", {true, true, false, false}, {}},
-    {"sse", {true, true, true, false}, {}},
-    {"sse2", all, zorvic::Level::sse2},
+    {"generic", {true, false, false, false}, {}}, {"mmx", {true, true, false, false}, {}},
+    {"sse", {true, true, true, false}, {}},       {"sse2", all, zorvic::Level::sse2},
     {"avx2", all, zorvic::Level::avx2},
 };
 

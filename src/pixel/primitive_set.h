@@ -37,6 +37,19 @@ Level BestLevel(const LevelProbe& probe = thisProcessorsLevel);
 // The level in use, resolved on the first call.
 Level CurrentLevel();
 
+// The set of the level in use.
+template <class Set>
+const Set& AtCurrentLevel(const Set& generic, const Set& sse2, const Set& avx2) {
+    switch (CurrentLevel()) {
+        case Level::avx2:
+            return avx2;
+        case Level::sse2:
+            return sse2;
+        default:
+            return generic;
+    }
+}
+
 // For tests: uses no form wider than this one. Returns the level in use from now on.
 Level LimitLevel(Level widest);
 

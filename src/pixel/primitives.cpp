@@ -14,16 +14,7 @@ namespace {
 
 constinit std::atomic<Level> levelInUse{Level::unresolved};
 
-const PrimitiveSet& Primitives() {
-    switch (CurrentLevel()) {
-        case Level::avx2:
-            return avx2Primitives;
-        case Level::sse2:
-            return sse2Primitives;
-        default:
-            return genericPrimitives;
-    }
-}
+const PrimitiveSet& Primitives() { return AtCurrentLevel(genericPrimitives, sse2Primitives, avx2Primitives); }
 
 template <class... Pointer>
 Status CheckRegion(SIZE size, Pointer... pointers) {

@@ -1,35 +1,14 @@
-// The two modulation loops, in the baseline form.
+// The choice of the kernel that draws in a colour.
 #include "raster/modulation.h"
 
-#include "pixel/forms/baseline.h"
-#include "raster/kernels_inl.h"
-#include "raster/ops/modulate.h"
+#include "raster/modulation_set.h"
 
 namespace zorvic {
 
-namespace {
-
-template <SourceDepth depth>
-void ModulateFrom(const BitmapLockInfo& dst, const BitmapLockInfo& src, std::uint32_t color) {
-    const UnscaledRows<depth> rows(src, WholeOf(dst));
-    if (color >> 24 == 255) {
-        RunKernel<Baseline>(dst, rows, Tint(color));
-    } else {
-        RunKernel<Baseline>(dst, rows, Modulate(color));
-    }
-}
-
-}  // namespace
-
 void ModulateImage(const BitmapLockInfo& dst, const BitmapLockInfo& src, std::uint32_t color) {
-    switch (DepthOf(src.bmBitsPixel)) {
-        case SourceDepth::palette8:
-            return ModulateFrom<SourceDepth::palette8>(dst, src, color);
-        case SourceDepth::rgb24:
-            return ModulateFrom<SourceDepth::rgb24>(dst, src, color);
-        case SourceDepth::argb32:
-            return ModulateFrom<SourceDepth::argb32>(dst, src, color);
-    }
+    const ModulationSet& set = AtCurrentLevel(genericModulation, sse2Modulation, avx2Modulation);
+    const bool isOpaque = color >> 24 == 255;
+    (isOpaque ? set.tint : set.modulate)[static_cast<int>(DepthOf(src.bmBitsPixel))](dst, src, color);
 }
 
 }  // namespace zorvic

@@ -3,6 +3,7 @@
 #include "raster/kernels.h"
 #include "raster/modulation.h"
 #include "support/image.h"
+#include "support/levels.h"
 
 namespace zorvic {
 namespace {
@@ -62,7 +63,10 @@ std::uint32_t ModulatedChannel(std::uint32_t d, std::uint32_t s, std::uint32_t c
     return static_cast<std::uint32_t>(result & 255) << 8 * channel;
 }
 
-TEST(Modulation, MatchesTheFormulasOfEachChannel) {
+class Modulation : public AtLevel {};
+INSTANTIATE_TEST_SUITE_P(, Modulation, testing::ValuesIn(Levels()), LevelName);
+
+TEST_P(Modulation, MatchesTheFormulasOfEachChannel) {
     Random random(7);
     for (const int bitsPixel : {8, 24, 32})
         for (int round = 0; round < 300; ++round) {
@@ -82,7 +86,7 @@ TEST(Modulation, MatchesTheFormulasOfEachChannel) {
         }
 }
 
-TEST(Modulation, LiteralPixels) {
+TEST_P(Modulation, LiteralPixels) {
     struct {
         const char* name;
         std::uint32_t color, source, before, after;

@@ -68,7 +68,9 @@ std::uint32_t ColorizeArgb(std::uint32_t argb, const HslAmounts& amounts) {
 
 void ColorizeImage(const BitmapLockInfo& image, const HslAmounts& amounts) {
     const AdjustTable adjusted(amounts);
-    MapColors<Depths::all>(image, [&](auto pixel) { return ToArgb(adjusted(ToAhsl(pixel))); });
+    MapColors<Depths::all>(image, [&](std::uint32_t* pixels, int n) {
+        for (int i = 0; i < n; ++i) StorePixel(pixels + i, ToArgb(adjusted(ToAhsl(pixels[i]))));
+    });
 }
 
 }  // namespace zorvic

@@ -1,6 +1,7 @@
-// The one way in which effects walk an image: every pixel, or every palette entry, through a function of a 32-bit word.
+// The one way in which effects walk an image: runs of pixels, or the palette, as 32-bit words.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -13,56 +14,46 @@ namespace zorvic {
 // The depths that an effect knows; images of others stay as they are.
 enum class Depths { argb32, argb32AndPalette, all };
 
-template <SourceDepth depth>
-void WritePixel(std::byte* row, std::ptrdiff_t x, std::uint32_t word) {
-    constexpr int bytes = BytesPerPixel(depth);
-    std::memcpy(row + bytes * x, &word, bytes);  // the low bytes first
+template <class Effect>
+void MapRows32(const BitmapLockInfo& image, const Effect& effect) {
+    const std::int64_t pixels = std::int64_t{image.bmWidth} * image.bmHeight;
+    const auto row = [&](int y) {
+        return reinterpret_cast<std::uint32_t*>(static_cast<std::byte*>(image.bmBits) +
+                                                std::ptrdiff_t{y} * image.bmWidthBytes);
+    };
+    if (image.bmWidthBytes == std::int64_t{4} * image.bmWidth && image.bmHeight > 0 && pixels <= INT32_MAX)
+        return effect(row(0), static_cast<int>(pixels));
+    for (int y = 0; y < image.bmHeight; ++y) effect(row(y), image.bmWidth);
 }
 
-// A constant count, so that the compiler turns the loops over a block into vectors without a second loop for the rest.
-inline constexpr int blockPixels = 16;
-
-template <SourceDepth depth, class Op>
-void MapBlock(const BitmapLockInfo& image, std::byte* pixels, const Op& op) {
-    std::uint32_t words[blockPixels];
-    for (int i = 0; i < blockPixels; ++i) words[i] = ReadPixel<depth>(image, pixels, i);
-    for (std::uint32_t& word : words) word = op(word);
-    for (int i = 0; i < blockPixels; ++i) WritePixel<depth>(pixels, i, words[i]);
+// 24-bit pixels are widened and narrowed again, block by block.
+template <class Effect>
+void MapRows24(const BitmapLockInfo& image, const Effect& effect) {
+    std::uint32_t words[chunk];
+    for (int y = 0; y < image.bmHeight; ++y) {
+        auto* const row = static_cast<std::byte*>(image.bmBits) + std::ptrdiff_t{y} * image.bmWidthBytes;
+        for (int x = 0; x < image.bmWidth; x += chunk) {
+            const int n = std::min<int>(image.bmWidth - x, chunk);
+            for (int i = 0; i < n; ++i) words[i] = ReadPixel<SourceDepth::rgb24>(image, row, x + i);
+            effect(words, n);
+            for (int i = 0; i < n; ++i) std::memcpy(row + std::ptrdiff_t{3} * (x + i), &words[i], 3);
+        }
+    }
 }
 
-// The last pixels go through the same block, padded.
-template <SourceDepth depth, class Op>
-void MapRow(const BitmapLockInfo& image, std::byte* pixels, int n, const Op& op) {
-    constexpr std::size_t pixelBytes = BytesPerPixel(depth), blockBytes = blockPixels * pixelBytes;
-    for (; n >= blockPixels; n -= blockPixels, pixels += blockBytes) MapBlock<depth>(image, pixels, op);
-    if (n <= 0) return;
-    std::byte padded[blockBytes] = {};
-    const std::size_t bytes = static_cast<std::size_t>(n) * pixelBytes;
-    std::memcpy(padded, pixels, bytes);
-    MapBlock<depth>(image, padded, op);
-    std::memcpy(pixels, padded, bytes);
-}
-
-template <SourceDepth depth, class Op>
-void MapRows(const BitmapLockInfo& image, const Op& op) {
-    if (!image.bmBits) return;
-    for (int y = 0; y < image.bmHeight; ++y)
-        MapRow<depth>(image, static_cast<std::byte*>(image.bmBits) + std::ptrdiff_t{y} * image.bmWidthBytes,
-                      image.bmWidth, op);
-}
-
-// op: word 0xAARRGGBB to word. 24-bit pixels come with alpha 255, and what op does to it is dropped. The indices of
-// palette images stay, and so does the grey ramp: it is every such image's.
-template <Depths depths, class Op>
-void MapColors(const BitmapLockInfo& image, const Op& op) {
-    if (image.bmBitsPixel == 32) {
-        MapRows<SourceDepth::argb32>(image, op);
+// effect(words, n): changes words 0xAARRGGBB in place. 24-bit pixels come with alpha 255, and what becomes of it is
+// dropped. The indices of palette images stay, and so does the grey ramp: it is every such image's.
+template <Depths depths, class Effect>
+void MapColors(const BitmapLockInfo& image, const Effect& effect) {
+    if (image.bmBitsPixel == 8) {
+        if (depths != Depths::argb32 && image.palette && image.palette != GreyPalette.data())
+            effect(reinterpret_cast<std::uint32_t*>(image.palette), image.colorCount);
+    } else if (!image.bmBits || image.bmWidth < 1) {
+        return;
+    } else if (image.bmBitsPixel == 32) {
+        MapRows32(image, effect);
     } else if (image.bmBitsPixel == 24 && depths == Depths::all) {
-        MapRows<SourceDepth::rgb24>(image, op);
-    } else if (image.bmBitsPixel == 8 && depths != Depths::argb32) {
-        auto* const entries = reinterpret_cast<std::byte*>(image.palette);
-        if (entries && image.palette != GreyPalette.data())
-            MapRow<SourceDepth::argb32>(image, entries, image.colorCount, op);
+        MapRows24(image, effect);
     }
 }
 

@@ -65,14 +65,15 @@ struct Avx2 {
         } else {
             const int start = columns[0] < lastWindow ? columns[0] : lastWindow;
             const __m256i from = _mm256_sub_epi32(all, _mm256_set1_epi32(start));
-            const __m256i near = _mm256_permutevar8x32_epi32(LoadAll(row + start), from);
+            const __m256i nearPixels = _mm256_permutevar8x32_epi32(LoadAll(row + start), from);
             if constexpr (reach == 1) {
-                return {near};
+                return {nearPixels};
             } else {
                 const int next = start + lanes < lastWindow ? start + lanes : lastWindow;
                 const __m256i fromNext = _mm256_sub_epi32(all, _mm256_set1_epi32(next));
-                const __m256i far = _mm256_permutevar8x32_epi32(LoadAll(row + next), fromNext);
-                return {_mm256_blendv_epi8(near, far, _mm256_cmpgt_epi32(from, _mm256_set1_epi32(lanes - 1)))};
+                const __m256i farPixels = _mm256_permutevar8x32_epi32(LoadAll(row + next), fromNext);
+                return {
+                    _mm256_blendv_epi8(nearPixels, farPixels, _mm256_cmpgt_epi32(from, _mm256_set1_epi32(lanes - 1)))};
             }
         }
     }
@@ -155,6 +156,13 @@ inline Avx2 Luma(Avx2 v) {
     const __m256i pairs = _mm256_maddubs_epi16(v.pixels, _mm256_set1_epi32(0x00010201));
     const __m256i gray = _mm256_srli_epi32(_mm256_madd_epi16(pairs, _mm256_set1_epi16(1)), 2);
     return {ShufflePixels(gray, _mm_setr_epi8(0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12))};
+}
+inline Avx2 AlphaBytes(Avx2 v) {
+    return {ShufflePixels(v.pixels, _mm_setr_epi8(3, 3, 3, 3, 7, 7, 7, 7, 11, 11, 11, 11, 15, 15, 15, 15))};
+}
+inline Avx2 LargestColor(Avx2 v) {
+    const __m256i larger = _mm256_max_epu8(_mm256_slli_epi32(v.pixels, 16), _mm256_slli_epi32(v.pixels, 24));
+    return {_mm256_max_epu8(_mm256_slli_epi32(v.pixels, 8), larger)};
 }
 inline Avx2 Reversed(Avx2 v) {
     return {_mm256_permutevar8x32_epi32(v.pixels, _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0))};

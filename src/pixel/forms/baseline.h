@@ -108,6 +108,12 @@ inline Baseline WithAlphaOf(Baseline color, Baseline alpha) {
 }
 inline Baseline SelectEqual(Baseline a, Baseline b, Baseline c, Baseline d) { return a.pixel == b.pixel ? c : d; }
 inline Baseline Luma(Baseline v) { return {(Byte(v, 0) + 2 * Byte(v, 8) + Byte(v, 16)) / 4 * 0x01010101}; }
+inline Baseline AlphaBytes(Baseline v) { return {Byte(v, 24) * 0x01010101}; }
+inline Baseline LargestColor(Baseline v) {
+    const std::uint32_t blue = Byte(v, 0), green = Byte(v, 8), red = Byte(v, 16);
+    const std::uint32_t larger = blue > green ? blue : green;
+    return {(larger > red ? larger : red) << 24};
+}
 inline Baseline Reversed(Baseline v) { return v; }
 
 inline Baseline::Weight AlphaWeight(Baseline v) { return v.pixel >> 24; }

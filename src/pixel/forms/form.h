@@ -39,6 +39,8 @@ concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std
     { WithAlphaOf(v, v) } -> std::same_as<V>;        // color of the first, alpha of the second
     { SelectEqual(v, v, v, v) } -> std::same_as<V>;  // pixels of c where a == b, else of d
     { Luma(v) } -> std::same_as<V>;                  // (blue + 2 x green + red) >> 2 in every byte
+    { AlphaBytes(v) } -> std::same_as<V>;            // alpha in every byte
+    { LargestColor(v) } -> std::same_as<V>;          // the largest of blue, green and red as alpha
     { Reversed(v) } -> std::same_as<V>;              // the last pixel first
 
     // Products. A weight is one factor for the four bytes of each pixel.

@@ -115,6 +115,15 @@ struct Packed64 {
         const __m64 two = _mm_srli_pi32(sum, 2), four = _mm_or_si64(two, _mm_slli_pi32(two, 16));
         return {_mm_or_si64(four, _mm_slli_pi32(four, 8))};
     }
+    friend Packed64 AlphaBytes(Packed64 v) {
+        const __m64 alphas = Spread::Alpha(v.pixels);
+        return {_mm_or_si64(alphas, _mm_slli_pi16(alphas, 8))};
+    }
+    // A difference that does not go below 0 makes a maximum.
+    friend Packed64 LargestColor(Packed64 v) {
+        const auto larger = [](__m64 a, __m64 b) { return _mm_adds_pu8(_mm_subs_pu8(a, b), b); };
+        return {larger(_mm_slli_pi32(v.pixels, 8), larger(_mm_slli_pi32(v.pixels, 16), _mm_slli_pi32(v.pixels, 24)))};
+    }
     friend Packed64 Reversed(Packed64 v) {
         return {_mm_or_si64(_mm_srli_si64(v.pixels, 32), _mm_slli_si64(v.pixels, 32))};
     }

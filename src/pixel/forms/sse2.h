@@ -133,6 +133,14 @@ inline Sse2 Luma(Sse2 v) {
     const __m128i gray = Sse2::Twice(_mm_srli_epi32(sum, 2));
     return {_mm_or_si128(gray, _mm_slli_epi32(gray, 8))};
 }
+inline Sse2 AlphaBytes(Sse2 v) {
+    const __m128i alphas = Sse2::Twice(_mm_srli_epi32(v.pixels, 24));
+    return {_mm_or_si128(alphas, _mm_slli_epi16(alphas, 8))};
+}
+inline Sse2 LargestColor(Sse2 v) {
+    const __m128i larger = _mm_max_epu8(_mm_slli_epi32(v.pixels, 16), _mm_slli_epi32(v.pixels, 24));
+    return {_mm_max_epu8(_mm_slli_epi32(v.pixels, 8), larger)};
+}
 inline Sse2 Reversed(Sse2 v) { return {_mm_shuffle_epi32(v.pixels, _MM_SHUFFLE(0, 1, 2, 3))}; }
 
 inline Sse2::Weight AlphaWeight(Sse2 v) { return {Sse2::Twice(_mm_srli_epi32(v.pixels, 24))}; }

@@ -36,7 +36,8 @@ public:
             for (int channel = 0; channel < 4; ++channel) {
                 int total = 0;
                 for (int k = 0; k < 4; ++k) total += rows[k]->channels[i][channel] * line.weight[k];
-                pixel |= static_cast<std::uint32_t>(ClampTable[static_cast<std::size_t>((total >> 16) + 256)]) << (8 * channel);
+                pixel |= static_cast<std::uint32_t>(ClampTable[static_cast<std::size_t>((total >> 16) + 256)])
+                         << (8 * channel);
             }
             StorePixel(out + i, pixel);
         }

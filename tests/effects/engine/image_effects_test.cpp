@@ -7,6 +7,7 @@
 #include "effects/pixels/tone.h"
 #include "raster/lookup_tables.h"
 #include "support/image.h"
+#include "support/levels.h"
 
 namespace zorvic {
 namespace {
@@ -21,6 +22,9 @@ struct Bgra {
 };
 
 constexpr HslAmounts amounts{-0.7F, 0.4F, -0.25F};
+
+class ImageEffects : public AtLevel {};
+INSTANTIATE_TEST_SUITE_P(, ImageEffects, testing::ValuesIn(Levels()), LevelName);
 
 struct EffectCase {
     const char* name;
@@ -62,7 +66,7 @@ const EffectCase effects[] = {
 };
 // clang-format on
 
-TEST(Effects, ChangeEveryPixelOrPaletteEntryAndNothingElse) {
+TEST_P(ImageEffects, ChangeEveryPixelOrPaletteEntryAndNothingElse) {
     for (const EffectCase& effect : effects) {
         EXPECT_EQ(effect.model(effect.from), effect.to) << effect.name;
         Random random(1);
@@ -116,7 +120,7 @@ Image BlurredByNine(const Image& dst, const Image& src) {
     return blurred;
 }
 
-TEST(BoxBlur, IsTheTruncatedMeanOfNinePixels) {
+TEST_P(ImageEffects, BoxBlurIsTheTruncatedMeanOfNinePixels) {
     Random random(1);
     for (int width = 1; width <= 70; ++width) {
         const int height = 1 + random.Below(5);
@@ -154,7 +158,7 @@ TEST(BoxBlur, KnowsOnly32BitImages) {
         }
 }
 
-TEST(Runs, CoverWhatDiffersFromTheKey) {
+TEST_P(ImageEffects, RunsCoverWhatDiffersFromTheKey) {
     Random random(1);
     for (const int bits : {8, 24, 32})
         for (int width = 0; width <= 70; ++width) {

@@ -5,6 +5,7 @@
 
 #include "pixel/described_images.h"
 #include "support/image.h"
+#include "support/levels.h"
 
 namespace zorvic {
 namespace {
@@ -54,7 +55,10 @@ void FilterByModel(Image& dst, const Image& src, int box) {
     });
 }
 
-TEST(BoxFilter, MatchesTheSumsOfEveryBox) {
+class BoxFilterSums : public AtLevel {};
+INSTANTIATE_TEST_SUITE_P(, BoxFilterSums, testing::ValuesIn(Levels()), LevelName);
+
+TEST_P(BoxFilterSums, MatchThoseOfEveryBox) {
     Random random(1);
     for (const int bitsPixel : {24, 32})
         for (const int box : {1, 2, 3, 4, 5, 15, 64, 255, 1000, 4096, 4097, 1 << 20})
@@ -71,7 +75,7 @@ TEST(BoxFilter, MatchesTheSumsOfEveryBox) {
 }
 
 // Rounding and the sums' largest values show here: each row and column in turn, and both kinds of sums.
-TEST(BoxFilter, KeepsFlatImages) {
+TEST_P(BoxFilterSums, KeepFlatImages) {
     for (const int box : {1, 2, 3, 64, 4095, 4096, 4097, 5000, 65535, 1 << 28, INT32_MAX})
         for (const std::uint32_t color : {0x00000000U, 0xFFFFFFFFU, 0xFE0180FFU}) {
             Image src(7, 5), dst(7, 5);

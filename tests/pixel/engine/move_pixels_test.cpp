@@ -2,6 +2,7 @@
 #include "pixel/move_pixels.h"
 
 #include "support/image.h"
+#include "support/levels.h"
 
 namespace zorvic {
 namespace {
@@ -28,7 +29,10 @@ constexpr MoveCase cases[] = {
 
 constexpr SIZE sizes[] = {{1, 1}, {3, 2}, {1, 45}, {45, 1}, {16, 16}, {15, 33}, {32, 17}, {70, 5}};
 
-TEST(MovePixels, TakesEveryPixelToItsPlaceAndTouchesNoOtherByte) {
+class MoveEveryPixel : public AtLevel {};
+INSTANTIATE_TEST_SUITE_P(, MoveEveryPixel, testing::ValuesIn(Levels()), LevelName);
+
+TEST_P(MoveEveryPixel, ToItsPlaceAndTouchNoOtherByte) {
     Random random(1);
     for (const int depth : {8, 24, 32})
         for (const SIZE size : sizes)

@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "support/image.h"
+#include "support/levels.h"
 
 namespace zorvic {
 namespace {
@@ -64,19 +65,7 @@ const Case cases[] = {
     {"and", AndPixels, [](std::uint32_t, std::uint32_t s, std::uint32_t value) { return s & value; }},
 };
 
-// The levels that this processor has.
-std::vector<Level> Levels() {
-    std::vector<Level> levels;
-    for (const Level level : {Level::generic, Level::sse2, Level::avx2})
-        if (LimitLevel(level) == level) levels.push_back(level);
-    return levels;
-}
-
-class Primitives : public testing::TestWithParam<Level> {
-protected:
-    Primitives() { LimitLevel(GetParam()); }
-    ~Primitives() override { LimitLevel(Level::avx2); }
-};
+class Primitives : public AtLevel {};
 
 Margins RandomMargins(Random& random) {
     return {random.Below(2) * random.Below(9), random.Below(2) * random.Below(40)};
@@ -170,9 +159,7 @@ TEST_P(Primitives, RunUpwardsWithNegativeSteps) {
     EXPECT_TRUE(SameBytes(dst, wanted));
 }
 
-constexpr const char* levelNames[] = {"generic", "sse2", "avx2"};
-INSTANTIATE_TEST_SUITE_P(, Primitives, testing::ValuesIn(Levels()),
-                         [](const auto& level) { return levelNames[static_cast<int>(level.param)]; });
+INSTANTIATE_TEST_SUITE_P(, Primitives, testing::ValuesIn(Levels()), LevelName);
 
 TEST(PrimitiveCalls, CopiesMoveOverlappingRows) {
     constexpr int step = 32;
