@@ -5,21 +5,29 @@
 
 namespace zorvic {
 
-void DrawBitmapRect(const CanvasLock& target, const RECT& dst, const Bitmap& bitmap, const RECT& src, DWORD filterMode,
-                    BYTE alpha) {
+namespace {
+
+// The locked image stretched over dst, clipped to the target.
+void DrawImage(const CanvasLock& target, const RECT& dst, const BitmapLockInfo& src, DWORD operationWord,
+               DWORD filterMode, BYTE alpha) {
     const RECT visible = Intersection(target.Area(), dst);
     if (!target || IsEmpty(visible)) return;
-    const SurfaceLock source(bitmap, &src);
-    if (!source) return;
-
     const BitmapLockInfo image = target.PartAt(visible);
     if (visible == dst) {
-        SelectStretchKernel(image, *source, bitmap.filter, filterMode, alpha);
+        SelectStretchKernel(image, src, operationWord, filterMode, alpha);
     } else {
         const Placement placement{visible.left - std::int64_t{dst.left}, visible.top - std::int64_t{dst.top},
                                   WidthOf(dst), HeightOf(dst)};
-        SelectPlacedKernel(image, placement, *source, bitmap.filter, filterMode, alpha);
+        SelectPlacedKernel(image, placement, src, operationWord, filterMode, alpha);
     }
+}
+
+}  // namespace
+
+void DrawBitmapRect(const CanvasLock& target, const RECT& dst, const Bitmap& bitmap, const RECT& src, DWORD filterMode,
+                    BYTE alpha) {
+    if (const SurfaceLock source(bitmap, &src); source)
+        DrawImage(target, dst, *source, bitmap.filter, filterMode, alpha);
 }
 
 int DrawBitmapRect(Canvas& canvas, const RECT& dst, const Bitmap& bitmap, const RECT& src, DWORD filterMode,
@@ -30,9 +38,12 @@ int DrawBitmapRect(Canvas& canvas, const RECT& dst, const Bitmap& bitmap, const 
 }
 
 int DrawWholeBitmap(Canvas& canvas, const RECT* dst, const Bitmap& bitmap, DWORD filterMode, BYTE alpha) {
-    const SIZE size = bitmap.Size();
-    const RECT all{0, 0, size.cx, size.cy};
-    return DrawBitmapRect(canvas, dst ? *dst : all, bitmap, all, filterMode, alpha);
+    const SurfaceLock source(bitmap);
+    if (!source) return 1;
+    const RECT where = dst ? *dst : RECT{0, 0, source->bmWidth, source->bmHeight};
+    const CanvasLock target(canvas, canvas.VisiblePart(where));
+    DrawImage(target, where, *source, bitmap.filter, filterMode, alpha);
+    return 1;
 }
 
 int DrawTextureSlice(Canvas& canvas, const RECT& dst, const Texture& texture, const TextureDrawParams& params) {

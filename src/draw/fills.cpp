@@ -26,7 +26,9 @@ bool ChangesNothing(DWORD color, Operation operation) {
 int FillColor(Canvas* canvas, DWORD color, const RECT* rect, DWORD mode) {
     if (ChangesNothing(color, OperationOf(mode))) return 1;
     if (!canvas) return 0;
-    if (rect) FillColor(CanvasLock(*canvas, canvas->VisiblePart(*rect)), color, *rect, mode);
+    if (!rect) return 1;
+    const CanvasLock target(*canvas, canvas->VisiblePart(*rect));
+    if (target) SelectFillKernel(*target, color, mode);
     return 1;
 }
 

@@ -36,12 +36,11 @@ constexpr bool IsEmpty(const BitmapLockInfo& image) { return image.bmWidth < 1 |
 
 // The part of an image that starts at (left, top); the caller knows that it lies inside.
 inline BitmapLockInfo PartOf(const BitmapLockInfo& image, int left, int top, int width, int height) {
-    BitmapLockInfo part = image;
-    part.bmBits = static_cast<std::byte*>(image.bmBits) + static_cast<std::ptrdiff_t>(top) * image.bmWidthBytes +
-                  static_cast<std::ptrdiff_t>(left) * BytesPerPixel(DepthOf(image.bmBitsPixel));
-    part.bmWidth = width;
-    part.bmHeight = height;
-    return part;
+    auto* const first = static_cast<std::byte*>(image.bmBits) + static_cast<std::ptrdiff_t>(top) * image.bmWidthBytes +
+                        static_cast<std::ptrdiff_t>(left) * BytesPerPixel(DepthOf(image.bmBitsPixel));
+    // Field by field: a copy in vectors would wait for the fields that were just written one by one.
+    return {image.bmType,      width, height,           image.bmWidthBytes, image.bmPlanes,
+            image.bmBitsPixel, first, image.colorCount, image.reserved,     image.palette};
 }
 
 }  // namespace zorvic

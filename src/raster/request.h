@@ -6,7 +6,7 @@
 namespace zorvic {
 
 // The top byte of an operation word. Other values copy when drawn and compose source-over when filled.
-enum class Operation : std::uint8_t {
+enum class Operation : std::uint32_t {
     copy = 0,
     sourceOver = 1,
     colorKey = 2,  // draws only

@@ -60,31 +60,26 @@ constexpr ScaledGroups<Placed, PlacedAlpha, PlacedKey> placed{
     .destinationOverSameSize = slots::destinationOverScaled,
 };
 
-// A choice between a kernel for sources of the draw's own size and a scaled one.
-template <class SameSize, class Scaled>
-DrawChoice Choose(const DrawRequest& request, const Group<SameSize>& sameSize, const Group<Scaled>& scaled) {
-    if (request.sameSize) return sameSize[request.depth];
-    return scaled[request.depth];
-}
-
-template <class Groups>
-DrawChoice ChooseKernel(const DrawRequest& request, const Groups& groups) {
+// Calls act with the slot of the draw's kernel, whatever its type, or with std::monostate when nothing is to be drawn.
+template <class Groups, class Act>
+auto WithKernel(const DrawRequest& request, const Groups& groups, const Act& act) {
     const auto [depth, sameSize, operation, filter, alpha] = request;
-    if (operation == Operation::multiply) return Choose(request, slots::multiplySameSize, groups.multiply);
-    if (operation == Operation::destinationOver)
-        return Choose(request, groups.destinationOverSameSize, groups.destinationOver);
+    const auto choose = [&](const auto& ofSameSize, const auto& scaled) {
+        return sameSize ? act(ofSameSize[depth]) : act(scaled[depth]);
+    };
+    if (operation == Operation::multiply) return choose(slots::multiplySameSize, groups.multiply);
+    if (operation == Operation::destinationOver) return choose(groups.destinationOverSameSize, groups.destinationOver);
     if (operation != Operation::sourceOver && alpha == 255) {
         if (operation == Operation::colorKey) {
             // 24-bit sources are keyed exactly at any size; smooth filters of the others blend instead.
-            if (depth == SourceDepth::rgb24 || filter == Filter::nearest)
-                return Choose(request, slots::keySameSize, groups.key);
-            return Choose(request, slots::keySameSize, groups.over[filter]);
+            if (depth == SourceDepth::rgb24 || filter == Filter::nearest) return choose(slots::keySameSize, groups.key);
+            return choose(slots::keySameSize, groups.over[filter]);
         }
-        return Choose(request, slots::copySameSize, filter == Filter::area ? groups.copyArea : groups.copy[filter]);
+        return choose(slots::copySameSize, filter == Filter::area ? groups.copyArea : groups.copy[filter]);
     }
-    if (alpha == 0) return {};
-    if (alpha == 255) return Choose(request, slots::overSameSize, groups.over[filter]);
-    return Choose(request, slots::alphaSameSize, groups.alpha[filter]);
+    if (alpha == 0) return act(std::monostate());
+    if (alpha == 255) return choose(slots::overSameSize, groups.over[filter]);
+    return choose(slots::alphaSameSize, groups.alpha[filter]);
 }
 
 // The key as the kernels compare it: 24-bit pixels are opaque, others are keyed by a transparent colour.
@@ -94,8 +89,12 @@ std::uint32_t KeyPixel(std::uint32_t operationWord, SourceDepth depth) {
 
 }  // namespace
 
-DrawChoice ChooseStretchKernel(const DrawRequest& request) { return ChooseKernel(request, whole); }
-DrawChoice ChoosePlacedKernel(const DrawRequest& request) { return ChooseKernel(request, placed); }
+DrawChoice ChooseStretchKernel(const DrawRequest& request) {
+    return WithKernel(request, whole, [](auto slot) { return DrawChoice(slot); });
+}
+DrawChoice ChoosePlacedKernel(const DrawRequest& request) {
+    return WithKernel(request, placed, [](auto slot) { return DrawChoice(slot); });
+}
 
 Slot<Blit> ChooseResizeKernel(SourceDepth depth, bool sameSize, Filter filter) {
     if (sameSize) return slots::copySameSize[depth];
@@ -128,42 +127,41 @@ std::optional<Slot<Fill>> ChooseFillKernel(std::uint32_t color, Operation operat
 
 namespace {
 
-// Calls the chosen kernel. part: the source as kernels without a placement read it.
-void RunChoice(const DrawChoice& choice, const BitmapLockInfo& dst, const Placement& placement,
-               const BitmapLockInfo& src, const BitmapLockInfo& part, std::uint32_t operationWord, std::uint8_t alpha) {
-    const std::uint32_t key = KeyPixel(operationWord, DepthOf(src.bmBitsPixel));
-    std::visit(Overloaded{[](std::monostate) {}, [&](const Slot<Blit>& slot) { KernelTable.At(slot)(dst, part); },
-                          [&](const Slot<BlitAlpha>& slot) { KernelTable.At(slot)(dst, part, alpha); },
-                          [&](const Slot<BlitKey>& slot) { KernelTable.At(slot)(dst, part, key); },
-                          [&](const Slot<Placed>& slot) { KernelTable.At(slot)(dst, placement, src); },
-                          [&](const Slot<PlacedAlpha>& slot) { KernelTable.At(slot)(dst, placement, src, alpha); },
-                          [&](const Slot<PlacedKey>& slot) { KernelTable.At(slot)(dst, placement, src, key); }},
-               choice);
+// Calls the kernel of a draw. part(): the source as kernels without a placement read it.
+template <class Groups, class Part>
+int Draw(const Groups& groups, const BitmapLockInfo& dst, const Placement& placement, const BitmapLockInfo& src,
+         const Part& part, std::uint32_t operationWord, std::uint32_t filterMode, std::uint8_t alpha) {
+    if (IsEmpty(dst) || IsEmpty(src)) return 1;
+    const SourceDepth depth = DepthOf(src.bmBitsPixel);
+    const bool sameSize = src.bmWidth == placement.width && src.bmHeight == placement.height;
+    const auto key = [&] { return KeyPixel(operationWord, depth); };
+    WithKernel(
+        {depth, sameSize, OperationOf(operationWord), FilterOf(filterMode), alpha}, groups,
+        Overloaded{[](std::monostate) { return 1; }, [&](Slot<Blit> slot) { return KernelTable.At(slot)(dst, part()); },
+                   [&](Slot<BlitAlpha> slot) { return KernelTable.At(slot)(dst, part(), alpha); },
+                   [&](Slot<BlitKey> slot) { return KernelTable.At(slot)(dst, part(), key()); },
+                   [&](Slot<Placed> slot) { return KernelTable.At(slot)(dst, placement, src); },
+                   [&](Slot<PlacedAlpha> slot) { return KernelTable.At(slot)(dst, placement, src, alpha); },
+                   [&](Slot<PlacedKey> slot) { return KernelTable.At(slot)(dst, placement, src, key()); }});
+    return 1;
 }
 
 }  // namespace
 
 int SelectStretchKernel(const BitmapLockInfo& dst, const BitmapLockInfo& src, std::uint32_t operationWord,
                         std::uint32_t filterMode, std::uint8_t alpha) {
-    if (IsEmpty(dst) || IsEmpty(src)) return 1;
-    const bool sameSize = src.bmWidth == dst.bmWidth && src.bmHeight == dst.bmHeight;
-    const DrawRequest request{DepthOf(src.bmBitsPixel), sameSize, OperationOf(operationWord), FilterOf(filterMode),
-                              alpha};
-    RunChoice(ChooseStretchKernel(request), dst, WholeOf(dst), src, src, operationWord, alpha);
-    return 1;
+    const auto part = [&]() -> const BitmapLockInfo& { return src; };
+    return Draw(whole, dst, WholeOf(dst), src, part, operationWord, filterMode, alpha);
 }
 
 int SelectPlacedKernel(const BitmapLockInfo& dst, const Placement& placement, const BitmapLockInfo& src,
                        std::uint32_t operationWord, std::uint32_t filterMode, std::uint8_t alpha) {
-    if (IsEmpty(dst) || IsEmpty(src)) return 1;
-    const bool sameSize = src.bmWidth == placement.width && src.bmHeight == placement.height;
-    const DrawRequest request{DepthOf(src.bmBitsPixel), sameSize, OperationOf(operationWord), FilterOf(filterMode),
-                              alpha};
-    const BitmapLockInfo part = sameSize ? PartOf(src, static_cast<int>(placement.left),
-                                                  static_cast<int>(placement.top), dst.bmWidth, dst.bmHeight)
-                                         : src;
-    RunChoice(ChoosePlacedKernel(request), dst, placement, src, part, operationWord, alpha);
-    return 1;
+    // Only for sources of the draw's own size.
+    const auto part = [&] {
+        return PartOf(src, static_cast<int>(placement.left), static_cast<int>(placement.top), dst.bmWidth,
+                      dst.bmHeight);
+    };
+    return Draw(placed, dst, placement, src, part, operationWord, filterMode, alpha);
 }
 
 int SelectFillKernel(const BitmapLockInfo& dst, std::uint32_t color, std::uint32_t operationWord) {

@@ -48,11 +48,15 @@ bool MemoryPixelStore::LockEx(BitmapLockInfo* out, const RECT* area) const {
     if (IsEmpty() || bitsPixel < 8) return false;
     std::byte* const bits = block.get() + colorCount * sizeof(DWORD);
     const BITMAP whole{0, width, height, StrideOf(width, bitsPixel), 1, bitsPixel, bits};
-    if (bitsPixel > 8) return DescribeArea(out, whole, area);
-    if (colorCount != 0) return DescribeArea(out, whole, area, colorCount, reinterpret_cast<DWORD*>(block.get()));
-    // Nobody writes through it: see CopyPixels.
-    auto* const ramp = const_cast<DWORD*>(GreyPalette.data());
-    return DescribeArea(out, whole, area, static_cast<std::uint16_t>(GreyPalette.size()), ramp);
+    std::uint16_t colors = colorCount;
+    DWORD* palette = nullptr;
+    if (colors != 0) {
+        palette = reinterpret_cast<DWORD*>(block.get());
+    } else if (bitsPixel == 8) {
+        colors = static_cast<std::uint16_t>(GreyPalette.size());
+        palette = const_cast<DWORD*>(GreyPalette.data());  // nobody writes through it: see CopyPixels
+    }
+    return DescribeArea(out, whole, area, colors, palette);
 }
 
 }  // namespace zorvic
