@@ -9,18 +9,22 @@ namespace bench {
 
 namespace {
 
-constexpr int width = 900, left = 235, right = 70, lineHeight = 22, barHeight = 14;
+constexpr int width = 900, left = 235, right = 70, lineHeight = 19, barHeight = 12;
+constexpr int headHeight = 48, footHeight = 12;  // of a panel: title and scale above, space below
 constexpr const char *barColor = "#2f6fb5", *limitColor = "#d9822b", *textColor = "#24292f", *gridColor = "#d0d7de";
 
 // A panel's bars share one unit and one scale.
 struct Panel {
     const char* title;
     Who unit;
+    double step;     // of the grid
     double longest;  // longer bars are cut
     std::vector<const Result*> results;
 
     double X(double ratio) const { return left + std::min(ratio, longest) / longest * (width - left - right); }
-    int Height() const { return static_cast<int>(results.size()) * lineHeight + 62; }
+    int Height() const {
+        return results.empty() ? 0 : headHeight + static_cast<int>(results.size()) * lineHeight + footHeight;
+    }
 };
 
 void WriteText(std::ostream& out, double x, double y, const char* anchor, const std::string& text) {
@@ -36,7 +40,7 @@ std::string TwoDigits(double value) {
 void WriteBar(std::ostream& out, const Panel& panel, const Result& result, int y) {
     const double ratio = *result.RatioTo(panel.unit);
     const double end = panel.X(ratio);
-    WriteText(out, left - 8, y + 12, "end", TitleOf(*result.row));
+    WriteText(out, left - 8, y + 11, "end", TitleOf(*result.row));
     out << "<rect x=\"" << left << "\" y=\"" << y << "\" width=\"" << end - left << "\" height=\"" << barHeight
         << "\" fill=\"" << barColor << "\"/>\n";
     const auto limit = result.RatioTo(Who::limit);
@@ -45,15 +49,14 @@ void WriteBar(std::ostream& out, const Panel& panel, const Result& result, int y
         out << "<rect x=\"" << x - 1.5 << "\" y=\"" << y - 2 << "\" width=\"3\" height=\"" << barHeight + 4
             << "\" fill=\"" << limitColor << "\"/>\n";
     }
-    WriteText(out, end + 6, y + 12, "start", TwoDigits(ratio) + (ratio > panel.longest ? " \xE2\x86\x92" : ""));
+    WriteText(out, end + 6, y + 11, "start", TwoDigits(ratio) + (ratio > panel.longest ? " \xE2\x86\x92" : ""));
 }
 
 void WritePanel(std::ostream& out, const Panel& panel, int top) {
     out << "<text x=\"12\" y=\"" << top + 18 << "\" font-weight=\"bold\">" << panel.title << "</text>\n";
-    const int first = top + 48, last = top + panel.Height() - 14;
-    const double step = panel.longest / 4;
-    for (int i = 0; i <= 4; ++i) {
-        const double value = i * step, x = panel.X(value);
+    const int first = top + headHeight, last = top + panel.Height() - footHeight;
+    for (double value = 0; value <= panel.longest; value += panel.step) {
+        const double x = panel.X(value);
         out << "<line x1=\"" << x << "\" x2=\"" << x << "\" y1=\"" << first - 6 << "\" y2=\"" << last << "\" stroke=\""
             << (value == 1 ? textColor : gridColor) << "\"/>\n";
         WriteText(out, x, first - 10, "middle", TwoDigits(value));
@@ -69,8 +72,8 @@ void WritePanel(std::ostream& out, const Panel& panel, int top) {
 
 void WriteChart(const Report& report, std::ostream& out) {
     Panel panels[]{
-        {"Time in units of pixman's (shorter is faster; the mark is the machine's limit)", Who::pixman, 2, {}},
-        {"No such operation in pixman: time in units of the machine's limit", Who::limit, 8, {}}};
+        {"Time in units of pixman's (shorter is faster; the mark is the machine's limit)", Who::pixman, 0.25, 1.25, {}},
+        {"No such operation in pixman: time in units of the machine's limit", Who::limit, 1, 5, {}}};
     for (const Result& result : report.results) {
         if (!IsStandardSize(result)) continue;
         for (Panel& panel : panels) {
@@ -79,12 +82,12 @@ void WriteChart(const Report& report, std::ostream& out) {
             break;
         }
     }
-    const int height = panels[0].Height() + panels[1].Height() + 12;
+    const int height = panels[0].Height() + panels[1].Height();
     out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << width << "\" height=\"" << height
         << "\" viewBox=\"0 0 " << width << ' ' << height
         << "\" font-family=\"DejaVu Sans, Verdana, sans-serif\" font-size=\"13\" fill=\"" << textColor << "\">\n"
         << "<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n";
-    int top = 6;
+    int top = 0;
     for (const Panel& panel : panels) {
         if (panel.results.empty()) continue;
         WritePanel(out, panel, top);

@@ -11,7 +11,6 @@
 namespace bench {
 
 const LimitLoops stringLimits{
-    .name = "rep",
     .store = [](std::uint32_t* dst, std::size_t n,
                 std::uint32_t value) { __stosd(reinterpret_cast<unsigned long*>(dst), value, n); },
     .modify = nullptr,

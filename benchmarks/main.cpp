@@ -9,6 +9,7 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "agreement.h"
 #include "contenders.h"
 #include "report.h"
 
@@ -72,9 +73,11 @@ Result MeasureRow(const Row& row, SIZE size, bool engineOnly, const Rounds& roun
     if (!library) library = EngineJob(row, images);
     if (!library) return result;
 
+    const Job pixman = PixmanJob(row, images);
+    if (pixman && MeanDifference(images, library, pixman) > AllowedDifference(row))
+        throw std::runtime_error("pixman draws another picture: " + TitleOf(row));
     auto times = Measure(
-        {library, PixmanJob(row, images), GdiJob(row, images), LimitJob(row, images)}, [&] { images.Restore(); },
-        rounds);
+        {library, pixman, GdiJob(row, images), LimitJob(row, images)}, [&] { images.Restore(); }, rounds);
     for (std::size_t i = 0; i < times.size(); ++i) {
         // Limits are those of one pass over the pixels.
         const bool isLimit = i == static_cast<std::size_t>(Who::limit);
@@ -101,6 +104,7 @@ Report Run(const Options& options) {
         }
         std::fprintf(stderr, "measured: %s\n", TitleOf(row).c_str());
     }
+    if (report.results.empty()) throw std::invalid_argument("no operation has \"" + options.only + "\" in its name");
     return report;
 }
 

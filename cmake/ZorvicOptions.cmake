@@ -1,7 +1,7 @@
 # What holds for every target: language, arithmetic, warnings, sanitizers and where the products go.
 option(ZORVIC_WERROR "Treat warnings as errors" OFF)
 option(ZORVIC_BUILD_TESTS "Build the tests" ON)
-option(ZORVIC_BUILD_BENCH "Offer the target zvbench, which the whole build leaves out" ON)
+option(ZORVIC_BUILD_BENCH "Build zvbench, which measures the library" ON)
 set(ZORVIC_SANITIZE "" CACHE STRING "Sanitizers for every target, as in -fsanitize=")
 set(ZORVIC_GOOGLETEST_DIR "/usr/src/googletest" CACHE PATH "GoogleTest's sources, built together with the tests")
 
