@@ -66,7 +66,8 @@ double UnitsOf(const Row& row, const Surfaces& images) {
     return static_cast<double>(PixelCount(images.target));
 }
 
-Result MeasureRow(const Row& row, SIZE size, bool engineOnly, const Rounds& rounds) {
+Result MeasureRow(const Row& row, SIZE size, bool engineOnly, Rounds rounds) {
+    rounds.restoresRuns = row.wears;
     Surfaces images(row, size);
     Job library = engineOnly ? Job{} : ExportJob(row, images);
     Result result{&row, size, !library, {}};

@@ -9,7 +9,8 @@ namespace bench {
 
 struct Rounds {
     int count;
-    double seconds;  // the least length of one
+    double seconds;             // the least length of one
+    bool restoresRuns = false;  // every run starts with what restore makes, not every turn only
 };
 
 // Seconds for one run of a job in each round; as many values as rounds, in their order.

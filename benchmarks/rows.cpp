@@ -38,7 +38,7 @@ constexpr Row rows[]{
      .targets = {OfLimit(1.3)}},
     {.name = "cross-fade", .work = Work::crossFade, .argument = 100, .limit = Limit::combine,
      .targets = {OfLimit(1.4)}},
-    {.name = "destination-over", .work = Work::draw, .operation = behind, .limit = Limit::combine,
+    {.name = "destination-over", .work = Work::draw, .operation = behind, .limit = Limit::combine, .wears = true,
      .targets = {OfPixman(0.09)}},
 
     {.name = "nearest 2 up", .work = Work::draw, .scale = 2, .limit = Limit::copy, .targets = {OfPixman(0.24)}},
@@ -71,7 +71,7 @@ constexpr Row rows[]{
     {.name = "color to alpha", .work = Work::shuffle, .argument = ZORVIC_SHUFFLE_COLOR_TO_ALPHA,
      .limit = Limit::modify, .targets = {OfLimit(2.6)}},
     {.name = "translate", .work = Work::translate, .content = ui, .limit = Limit::modify, .targets = {OfLimit(2.6)}},
-    {.name = "colorize", .work = Work::colorize, .limit = Limit::modify, .targets = {Nanoseconds(6)}},
+    {.name = "colorize", .work = Work::colorize, .limit = Limit::modify, .wears = true, .targets = {Nanoseconds(6)}},
 
     {.name = "3 x 3 blur", .work = Work::box3, .limit = Limit::copy, .targets = {Nanoseconds(0.24)}},
     {.name = box15, .work = Work::boxTwice, .argument = 15, .limit = Limit::copy, .per = Per::pixelAndPass,

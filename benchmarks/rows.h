@@ -55,6 +55,7 @@ struct Row {
     int argument = 0;  // axis, transform, mode or box
     Limit limit = Limit::none;
     Per per = Per::pixel;
+    bool wears = false;  // what a run leaves behind costs the next one another time: every run starts afresh
     LONG drawnSize = 0;  // width and height of a draw on a larger canvas; 0: all of canvases of several sizes
     Target targets[2]{};
     double narrowOfPixman = 1;  // the first target of a run that is limited to SSE2
