@@ -1,9 +1,12 @@
-// One loop for all transforms and depths: a source pixel's place is a start and one step for each axis.
+// Rows and 32-bit pixels go through the primitives. One loop moves other pixels: a source pixel's place is a start and
+// one step for each axis.
 #include "pixel/move_pixels.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+
+#include "pixel/primitives.h"
 
 namespace zorvic {
 
@@ -40,19 +43,31 @@ void MoveInBlocks(const BitmapLockInfo& dst, const BitmapLockInfo& src, const Mo
         }
 }
 
+// An image as seen from its last row upwards, or not.
+TargetPixels PixelsOf(const BitmapLockInfo& image, bool upwards) {
+    const std::ptrdiff_t stride = image.bmWidthBytes;
+    if (!upwards) return {image.bmBits, stride};
+    return {static_cast<std::byte*>(image.bmBits) + (image.bmHeight - 1) * stride, -stride};
+}
+
 }  // namespace
 
 void MovePixels(const BitmapLockInfo& dst, const BitmapLockInfo& src, Transform transform) {
     const Moves moves = MovesOf(transform);
-    switch (src.bmBitsPixel) {
-        case 8:
-            return MoveInBlocks<1>(dst, src, moves);
-        case 24:
-            return MoveInBlocks<3>(dst, src, moves);
-        case 32:
-            return MoveInBlocks<4>(dst, src, moves);
-        default:
-            return;
+    const SIZE size{src.bmWidth, src.bmHeight};
+    const TargetPixels target = PixelsOf(dst, moves.mirrorsY);
+    if (src.bmBitsPixel != 8 && src.bmBitsPixel != 24 && src.bmBitsPixel != 32) return;
+    if (!moves.transposes && !moves.mirrorsX) {
+        CopyPixels(PixelsOf(src, false), target, size, src.bmBitsPixel / 8);
+    } else if (src.bmBitsPixel == 8) {
+        MoveInBlocks<1>(dst, src, moves);
+    } else if (src.bmBitsPixel == 24) {
+        MoveInBlocks<3>(dst, src, moves);
+    } else if (moves.transposes) {
+        TransposePixels(PixelsOf(src, moves.mirrorsX), target, size);
+    } else {
+        constexpr int leftToRight = 1;
+        MirrorPixels(PixelsOf(src, false), target, size, leftToRight);
     }
 }
 

@@ -15,6 +15,9 @@ struct PrimitiveSet {
     void (*composeColor)(TargetPixels dst, SIZE size, std::uint32_t color);
     void (*bitOr)(SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t value);
     void (*bitAnd)(SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t value);
+    void (*copy)(const void* src, void* dst, std::size_t bytes);  // they may overlap
+    // Columns of the source become rows of the target; size is the source's.
+    void (*transpose)(SourcePixels src, TargetPixels dst, SIZE size);
     void (*copyReversed)(const void* src, void* dst, int n);  // n pixels
     void (*exchange)(void* a, void* b, int n);
     void (*exchangeReversed)(void* a, void* b, int n);  // a[i] with b[n - 1 - i]

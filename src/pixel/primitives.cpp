@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <atomic>
 #include <cstdlib>
-#include <cstring>
 
 #include "pixel/primitive_set.h"
 
@@ -79,14 +78,21 @@ Status InitPrimitives() {
 Status CopyPixels(SourcePixels src, TargetPixels dst, SIZE size, int bytesPerPixel) {
     const Status status = CheckRegion(size, src.first, dst.first);
     if (status != Status::success) return status;
+    const auto copy = Primitives().copy;
     const std::size_t rowBytes = static_cast<std::size_t>(size.cx) * static_cast<std::size_t>(bytesPerPixel);
+    const std::uint64_t allBytes = std::uint64_t{rowBytes} * static_cast<unsigned>(size.cy);
+    const auto packed = static_cast<std::ptrdiff_t>(rowBytes);
+    if (src.step == packed && dst.step == packed && allBytes <= PTRDIFF_MAX) {
+        copy(src.first, dst.first, static_cast<std::size_t>(allBytes));
+        return status;
+    }
     // Rows that would be overwritten before their turn go first.
     const bool moves = src.step == dst.step && static_cast<std::size_t>(std::abs(dst.step)) >= rowBytes;
     const bool ahead = reinterpret_cast<std::uintptr_t>(dst.first) > reinterpret_cast<std::uintptr_t>(src.first);
     const bool lastFirst = moves && ahead == (dst.step > 0);
     for (int i = 0; i < size.cy; ++i) {
         const int y = lastFirst ? size.cy - 1 - i : i;
-        std::memmove(RowOf(dst, y), RowOf(src, y), rowBytes);
+        copy(RowOf(src, y), RowOf(dst, y), rowBytes);
     }
     return status;
 }
@@ -123,6 +129,10 @@ Status AndPixels(SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t va
     return RunOnPair(&PrimitiveSet::bitAnd, src, dst, size, value);
 }
 
+Status TransposePixels(SourcePixels src, TargetPixels dst, SIZE size) {
+    return RunOnPair(&PrimitiveSet::transpose, src, dst, size);
+}
+
 Status MirrorPixels(SourcePixels src, TargetPixels dst, SIZE size, int axis) {
     Status status = CheckRegion(size, src.first, dst.first);
     if (status == Status::success && (axis < 0 || axis > 2)) status = Status::badAxis;
@@ -140,7 +150,7 @@ Status MirrorPixels(SourcePixels src, TargetPixels dst, SIZE size, int axis) {
         if (mirrorsPixels) {
             primitives.copyReversed(from, to, size.cx);
         } else {
-            std::memmove(to, from, static_cast<std::size_t>(size.cx) * 4);
+            primitives.copy(from, to, static_cast<std::size_t>(size.cx) * 4);
         }
     }
     return status;

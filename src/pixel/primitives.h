@@ -44,6 +44,9 @@ Status ComposeColor(std::uint32_t color, TargetPixels dst, SIZE size);
 Status OrPixels(SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t value);
 Status AndPixels(SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t value);
 
+// Columns become rows: the source's pixel (x, y) goes to (y, x). The images do not overlap.
+Status TransposePixels(SourcePixels src, TargetPixels dst, SIZE size);
+
 // Axis 0 reverses the order of rows, 1 that of the pixels in every row, 2 both. The same image as source and target is
 // mirrored in place; other overlaps give undefined pixels.
 Status MirrorPixels(SourcePixels src, TargetPixels dst, SIZE size, int axis);

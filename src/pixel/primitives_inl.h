@@ -39,6 +39,7 @@ struct AndValue {
     }
 };
 
+// Pixels may start at any byte.
 inline std::uint32_t* Words(void* row) { return static_cast<std::uint32_t*>(row); }
 inline const std::uint32_t* Words(const void* row) { return static_cast<const std::uint32_t*>(row); }
 
@@ -72,6 +73,47 @@ void RunOnImage(SolidColor color, TargetPixels dst, SIZE size, const Op& op) {
     if (IsPacked(dst.step, size)) size = AsOneRow(size);
     auto* to = static_cast<std::byte*>(dst.first);
     for (int y = 0; y < size.cy; ++y, to += dst.step) ApplySpan<V>(op, Words(to), color, size.cx);
+}
+
+template <Form V>
+void CopyBytes(const std::byte* src, std::byte* dst, std::size_t bytes) {
+    // Vectors go forward.
+    const auto ahead = reinterpret_cast<std::uintptr_t>(dst) - reinterpret_cast<std::uintptr_t>(src);
+    if (ahead < bytes) {
+        std::memmove(dst, src, bytes);
+        return;
+    }
+    [[maybe_unused]] const typename V::Guard guard;
+    const std::size_t words = bytes / 4;
+    ApplySpan<V>(Copy{}, Words(dst), Words(src), static_cast<int>(words));
+    for (std::size_t i = 4 * words; i < bytes; ++i) dst[i] = src[i];
+}
+
+// Tiles as wide as a cache line of the source, and not so high that the target's rows push each other out of the cache.
+// The last four columns, and the last rows, may overlap those before them.
+template <Form V>
+void Transpose(SourcePixels src, TargetPixels dst, SIZE size) {
+    [[maybe_unused]] const typename V::Guard guard;
+    constexpr int tileWidth = 16, tileHeight = 32;
+    const auto* const from = static_cast<const std::byte*>(src.first);
+    auto* const to = static_cast<std::byte*>(dst.first);
+    if (size.cx < 4 || size.cy < V::lanes) {
+        for (std::ptrdiff_t y = 0; y < size.cy; ++y)
+            for (std::ptrdiff_t x = 0; x < size.cx; ++x)
+                Baseline::Load(Words(from + y * src.step) + x).Store(Words(to + x * dst.step) + y);
+        return;
+    }
+    const auto moveColumns = [&](std::ptrdiff_t x, std::ptrdiff_t y) {
+        V columns[4];
+        V::LoadColumns(from + y * src.step + 4 * x, src.step, columns);
+        for (int i = 0; i < 4; ++i) columns[i].Store(Words(to + (x + i) * dst.step) + y);
+    };
+    const int lastX = size.cx - 4, lastY = size.cy - V::lanes;
+    for (int top = 0; top < size.cy; top += tileHeight)
+        for (int left = 0; left < size.cx; left += tileWidth)
+            for (int y = top; y < size.cy && y < top + tileHeight; y += V::lanes)
+                for (int x = left; x < size.cx && x < left + tileWidth; x += 4)
+                    moveColumns(x < lastX ? x : lastX, y < lastY ? y : lastY);
 }
 
 // What remains behind the last whole vector is mirrored by the same function in vectors of one pixel.
@@ -119,6 +161,11 @@ consteval PrimitiveSet MakePrimitives() {
                     std::uint32_t value) { RunOnImage<V>(src, dst, size, OrValue{value}); },
         .bitAnd = [](SourcePixels src, TargetPixels dst, SIZE size,
                      std::uint32_t value) { RunOnImage<V>(src, dst, size, AndValue{value}); },
+        .copy =
+            [](const void* src, void* dst, std::size_t bytes) {
+                CopyBytes<V>(static_cast<const std::byte*>(src), static_cast<std::byte*>(dst), bytes);
+            },
+        .transpose = Transpose<V>,
         .copyReversed = [](const void* src, void* dst, int n) { CopyReversed<V>(Words(src), Words(dst), n); },
         .exchange = [](void* a, void* b, int n) { Exchange<V>(Words(a), Words(b), n); },
         .exchangeReversed = [](void* a, void* b, int n) { ExchangeReversed<V>(Words(a), Words(b), n); },

@@ -1,29 +1,12 @@
 // Copies between surfaces: rows and palette of one format, or any format widened to 32 bits.
 #include <algorithm>
-#include <cstring>
-#include <functional>
 
+#include "pixel/primitives.h"
 #include "raster/kernel_table.h"
 #include "raster/lookup_tables.h"
 #include "surface/bitmap.h"
 
 namespace zorvic {
-
-namespace {
-
-// Both images have one size and depth. Rows of one surface may overlap: copying starts at the end that is not read any
-// more.
-void CopyRows(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
-    const std::size_t rowBytes = static_cast<std::size_t>(src.bmWidth) * (src.bmBitsPixel / 8U);
-    const bool upward = std::greater<>()(dst.bmBits, src.bmBits);
-    for (int i = 0; i < src.bmHeight; ++i) {
-        const std::ptrdiff_t y = upward ? src.bmHeight - 1 - i : i;
-        std::memmove(static_cast<std::byte*>(dst.bmBits) + y * dst.bmWidthBytes,
-                     static_cast<const std::byte*>(src.bmBits) + y * src.bmWidthBytes, rowBytes);
-    }
-}
-
-}  // namespace
 
 void CopyPalette(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
     if (dst.palette == src.palette) return;
@@ -48,7 +31,8 @@ void CopyPixels(Bitmap& dst, const RECT* dstArea, const Bitmap& src, const RECT*
     cut.bmHeight = to->bmHeight;
 
     if (to->bmBitsPixel == cut.bmBitsPixel && to->colorCount == cut.colorCount) {
-        CopyRows(*to, cut);
+        CopyPixels({cut.bmBits, cut.bmWidthBytes}, {to->bmBits, to->bmWidthBytes}, {cut.bmWidth, cut.bmHeight},
+                   cut.bmBitsPixel / 8);
         CopyPalette(*to, cut);
     } else if (to->bmBitsPixel == 32) {
         KernelTable.At(slots::copySameSize, DepthOf(cut.bmBitsPixel))(*to, cut);

@@ -78,12 +78,26 @@ struct Avx2 {
         }
     }
 
+    // Rows i and i + 4 side by side.
+    static void LoadColumns(const std::byte* rows, std::ptrdiff_t step, Avx2 (&columns)[4]) {
+        const auto twoRows = [=](int i) {
+            return _mm256_inserti128_si256(_mm256_castsi128_si256(LoadHalf(rows + i * step)),
+                                           LoadHalf(rows + (i + 4) * step), 1);
+        };
+        const __m256i r0 = twoRows(0), r1 = twoRows(1), r2 = twoRows(2), r3 = twoRows(3);
+        const __m256i left = _mm256_unpacklo_epi32(r0, r1), leftBelow = _mm256_unpacklo_epi32(r2, r3);
+        const __m256i right = _mm256_unpackhi_epi32(r0, r1), rightBelow = _mm256_unpackhi_epi32(r2, r3);
+        columns[0] = {_mm256_unpacklo_epi64(left, leftBelow)};
+        columns[1] = {_mm256_unpackhi_epi64(left, leftBelow)};
+        columns[2] = {_mm256_unpacklo_epi64(right, rightBelow)};
+        columns[3] = {_mm256_unpackhi_epi64(right, rightBelow)};
+    }
+
     static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {
         // Pixels p and p + 2 side by side, so that packing puts the four sums in order.
         const auto sum = [&](int p) {
-            const __m256i pixels = _mm256_inserti128_si256(
-                _mm256_castsi128_si256(_mm_loadu_si128(reinterpret_cast<const __m128i*>(row + taps.first[p]))),
-                _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + taps.first[p + 2])), 1);
+            const __m256i pixels = _mm256_inserti128_si256(_mm256_castsi128_si256(LoadHalf(row + taps.first[p])),
+                                                           LoadHalf(row + taps.first[p + 2]), 1);
             const __m256i pairs =
                 _mm256_broadcastsi128_si256(_mm_setr_epi8(0, -1, 4, -1, 1, -1, 5, -1, 2, -1, 6, -1, 3, -1, 7, -1));
             const __m256i lastPairs = _mm256_broadcastsi128_si256(
@@ -134,6 +148,7 @@ struct Avx2 {
 
 private:
     static __m256i LoadAll(const void* in) { return _mm256_loadu_si256(static_cast<const __m256i*>(in)); }
+    static __m128i LoadHalf(const void* in) { return _mm_loadu_si128(static_cast<const __m128i*>(in)); }
     static void StoreAll(void* out, __m256i v) { _mm256_storeu_si256(static_cast<__m256i*>(out), v); }
     static __m256i LaneNumbers() { return _mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7); }
 };

@@ -47,6 +47,10 @@ struct Baseline {
         return Load(row + *columns);
     }
 
+    static void LoadColumns(const std::byte* rows, std::ptrdiff_t, Baseline (&columns)[4]) {
+        std::memcpy(columns, rows, sizeof columns);
+    }
+
     static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {
         for (int column = 0; column < 4; ++column)
             for (int shift = 0; shift < 32; shift += 8) {

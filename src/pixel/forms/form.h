@@ -6,6 +6,7 @@
 #pragma once
 
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 
 #include "pixel/forms/taps.h"
@@ -16,7 +17,8 @@ namespace {
 template <class V>
 concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std::uint32_t* in, std::uint32_t* out,
                         std::uint32_t word, int number, const int* columns, const TapGroup& taps, std::int16_t* sums,
-                        const std::int16_t* const* rows) {
+                        const std::int16_t* const* rows, const std::byte* bytes, std::ptrdiff_t step,
+                        V (&columnVectors)[4]) {
     { V::lanes } -> std::convertible_to<int>;
     { V::picksFromWindows } -> std::convertible_to<bool>;
     typename V::Guard;                                             // lives as long as vectors are in use
@@ -62,6 +64,9 @@ concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std
 
     // The pixels of a row at ascending columns, one for each lane. reach: see Columns in rows/columns.h.
     { V::template Pick<0>(in, columns, number) } -> std::same_as<V>;
+
+    // Four columns of `lanes` rows, each from top to bottom; step: bytes from row to row.
+    V::LoadColumns(bytes, step, columnVectors);
 
     // Four-tap filters; see taps.h.
     V::SumTaps(in, taps, sums);

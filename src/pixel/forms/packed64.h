@@ -55,6 +55,14 @@ struct Packed64 {
         return {_mm_unpacklo_pi32(LoadOne(row + columns[0]), LoadOne(row + columns[1]))};
     }
 
+    static void LoadColumns(const std::byte* rows, std::ptrdiff_t step, Packed64 (&columns)[4]) {
+        for (int half = 0; half < 2; ++half) {
+            const __m64 upper = LoadAll(rows + 8 * half), lower = LoadAll(rows + step + 8 * half);
+            columns[2 * half] = {_mm_unpacklo_pi32(upper, lower)};
+            columns[2 * half + 1] = {_mm_unpackhi_pi32(upper, lower)};
+        }
+    }
+
     static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {
         const __m64 zero = _mm_setzero_si64();
         for (int column = 0; column < 4; ++column, sums += 4) {

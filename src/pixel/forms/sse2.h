@@ -51,6 +51,17 @@ struct Sse2 {
         return {_mm_unpacklo_epi64(low, high)};
     }
 
+    static void LoadColumns(const std::byte* rows, std::ptrdiff_t step, Sse2 (&columns)[4]) {
+        const __m128i r0 = LoadAll(rows), r1 = LoadAll(rows + step);
+        const __m128i r2 = LoadAll(rows + 2 * step), r3 = LoadAll(rows + 3 * step);
+        const __m128i left = _mm_unpacklo_epi32(r0, r1), leftBelow = _mm_unpacklo_epi32(r2, r3);
+        const __m128i right = _mm_unpackhi_epi32(r0, r1), rightBelow = _mm_unpackhi_epi32(r2, r3);
+        columns[0] = {_mm_unpacklo_epi64(left, leftBelow)};
+        columns[1] = {_mm_unpackhi_epi64(left, leftBelow)};
+        columns[2] = {_mm_unpacklo_epi64(right, rightBelow)};
+        columns[3] = {_mm_unpackhi_epi64(right, rightBelow)};
+    }
+
     static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {
         const auto sum = [&](int column) {
             const __m128i zero = _mm_setzero_si128();

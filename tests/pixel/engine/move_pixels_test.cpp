@@ -27,7 +27,7 @@ constexpr MoveCase cases[] = {
      [](int x, int, int h) { return h - 1 - x; }},
 };
 
-constexpr SIZE sizes[] = {{1, 1}, {3, 2}, {1, 45}, {45, 1}, {16, 16}, {15, 33}, {32, 17}, {70, 5}};
+constexpr SIZE sizes[] = {{1, 1}, {3, 2}, {1, 45}, {45, 1}, {16, 16}, {15, 33}, {32, 17}, {70, 5}, {37, 71}};
 
 class MoveEveryPixel : public AtLevel {};
 INSTANTIATE_TEST_SUITE_P(, MoveEveryPixel, testing::ValuesIn(Levels()), LevelName);

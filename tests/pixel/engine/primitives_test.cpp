@@ -161,7 +161,7 @@ TEST_P(Primitives, RunUpwardsWithNegativeSteps) {
 
 INSTANTIATE_TEST_SUITE_P(, Primitives, testing::ValuesIn(Levels()), LevelName);
 
-TEST(PrimitiveCalls, CopiesMoveOverlappingRows) {
+TEST_P(Primitives, CopiesMoveOverlappingRows) {
     constexpr int step = 32;
     for (const int bytesPerPixel : {3, 4})
         for (const int direction : {1, -1})
