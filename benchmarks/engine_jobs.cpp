@@ -31,7 +31,7 @@ constexpr zorvic::CpuFeatures all{true, true, true, true};
 constexpr Form forms[]{
     {"generic", {true, false, false, false}, {}}, {"mmx", {true, true, false, false}, {}},
     {"sse", {true, true, true, false}, {}},       {"sse2", all, zorvic::Level::sse2},
-    {"avx2", all, zorvic::Level::avx2},
+    {"avx2", all, zorvic::Level::avx2},           {"avx512", all, zorvic::Level::avx512},
 };
 
 }  // namespace

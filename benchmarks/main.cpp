@@ -1,6 +1,6 @@
 // zvbench [--quick] [--only TEXT] [--form LEVEL] [--json FILE] [--svg FILE]
 // Measures zorvic32.dll against pixman, GDI and the machine's own limits. With --form it measures the pixel engine
-// inside this program, limited to a form: generic, mmx, sse, sse2, avx2.
+// inside this program, limited to a form: generic, mmx, sse, sse2, avx2, avx512.
 #include <intrin.h>
 
 #include <cstdio>

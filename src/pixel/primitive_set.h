@@ -23,9 +23,10 @@ struct PrimitiveSet {
     void (*exchangeReversed)(void* a, void* b, int n);  // a[i] with b[n - 1 - i]
 };
 
-extern const PrimitiveSet genericPrimitives, sse2Primitives, avx2Primitives;
+extern const PrimitiveSet genericPrimitives, sse2Primitives, avx2Primitives, avx512Primitives;
 
-enum class Level : int { unresolved = -1, generic, sse2, avx2 };
+enum class Level : int { unresolved = -1, generic, sse2, avx2, avx512 };
+inline constexpr Level widestLevel = Level::avx512;
 
 // The processor as detection sees it; tests put another one in its place.
 struct LevelProbe {
@@ -42,8 +43,10 @@ Level CurrentLevel();
 
 // The set of the level in use.
 template <class Set>
-const Set& AtCurrentLevel(const Set& generic, const Set& sse2, const Set& avx2) {
+const Set& AtCurrentLevel(const Set& generic, const Set& sse2, const Set& avx2, const Set& avx512) {
     switch (CurrentLevel()) {
+        case Level::avx512:
+            return avx512;
         case Level::avx2:
             return avx2;
         case Level::sse2:

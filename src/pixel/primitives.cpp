@@ -13,7 +13,9 @@ namespace {
 
 constinit std::atomic<Level> levelInUse{Level::unresolved};
 
-const PrimitiveSet& Primitives() { return AtCurrentLevel(genericPrimitives, sse2Primitives, avx2Primitives); }
+const PrimitiveSet& Primitives() {
+    return AtCurrentLevel(genericPrimitives, sse2Primitives, avx2Primitives, avx512Primitives);
+}
 
 template <class... Pointer>
 Status CheckRegion(SIZE size, Pointer... pointers) {
@@ -60,7 +62,7 @@ void MirrorInPlace(TargetPixels image, SIZE size, bool mirrorsRows, bool mirrors
 
 Level CurrentLevel() {
     Level level = levelInUse.load(std::memory_order_relaxed);
-    if (level == Level::unresolved) level = LimitLevel(Level::avx2);
+    if (level == Level::unresolved) level = LimitLevel(widestLevel);
     return level;
 }
 

@@ -30,14 +30,14 @@ V LastSamples(SolidColor solid, int, int) {
     return V::Broadcast(solid.color);
 }
 
-// What an operation may state about its samples, for the forms that look at them.
+// Operations that may state what a look at the samples can spare.
 template <class Op>
 concept CopiesOpaque = Op::opaqueIsCopy;
 template <class Op>
 concept SkipsTransparent = Op::transparentIsNothing;
 
 template <Form V, class Op>
-void ApplyVector(const Op& op, std::uint32_t* dst, V src) {
+void ApplyVector(Op op, std::uint32_t* dst, V src) {
     if constexpr (LooksAtAlpha<V> && SkipsTransparent<Op>)
         if (IsTransparentBlack(src)) return;
     if constexpr (LooksAtAlpha<V> && CopiesOpaque<Op>)
@@ -45,16 +45,26 @@ void ApplyVector(const Op& op, std::uint32_t* dst, V src) {
     op(V::Load(dst), src).Store(dst);
 }
 
-// Applies the operation to n pixels.
+template <Form V, class Op>
+void ApplyVectors(Op op, std::uint32_t* dst, const std::uint32_t* samples, int n) {
+    for (int i = 0; i < n; i += V::lanes) ApplyVector(op, dst + i, V::Load(samples + i));
+}
+template <Form V, class Op>
+void ApplyVectors(Op op, std::uint32_t* dst, SolidColor solid, int n) {
+    const V samples = V::Broadcast(solid.color);
+    for (int i = 0; i < n; i += V::lanes) op(V::Load(dst + i), samples).Store(dst + i);
+}
+
+// Applies the operation to n pixels. It is passed by value: pixels cannot be part of it, as far as a compiler knows.
 template <Form V, class Op, class Source>
-void ApplySpan(const Op& op, std::uint32_t* dst, Source src, int n) {
+void ApplySpan(Op op, std::uint32_t* dst, Source src, int n) {
     if constexpr (V::lanes == 1) {
-        for (int i = 0; i < n; ++i) op(V::Load(dst + i), Samples<V>(src, i)).Store(dst + i);
+        ApplyVectors<V>(op, dst, src, n);
     } else if (n >= V::lanes) {
         // The last vector ends with the span and may overlap the one before it: both of its sides are read first.
         const int last = n - V::lanes;
         const V lastDst = V::Load(dst + last), lastSrc = Samples<V>(src, last);
-        for (int i = 0; i < last; i += V::lanes) ApplyVector(op, dst + i, Samples<V>(src, i));
+        ApplyVectors<V>(op, dst, src, last);
         op(lastDst, lastSrc).Store(dst + last);
     } else if constexpr (requires { typename V::Narrower; }) {
         ApplySpan<typename V::Narrower>(op, dst, src, n);

@@ -41,7 +41,16 @@ constexpr Overlay overlays[] = {
     {Stage::routed, Only({52, 59, 91, 98})},
 };
 
-const KernelSet& WidestKernels(Level level) { return level == Level::avx2 ? avx2Kernels : sse2Kernels; }
+const KernelSet& WidestKernels(Level level) {
+    switch (level) {
+        case Level::avx512:
+            return avx512Kernels;
+        case Level::avx2:
+            return avx2Kernels;
+        default:
+            return sse2Kernels;
+    }
+}
 
 const KernelSet& KernelsOf(Stage stage, const CpuFeatures& features, std::optional<Level> primitives) {
     switch (stage) {

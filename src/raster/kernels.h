@@ -7,6 +7,6 @@ namespace zorvic {
 
 extern const KernelSet baselineKernels;
 extern const KernelSet packedKernels;  // baseline, with the bicubic arithmetic of packed filter weights
-extern const KernelSet mmxKernels, sseKernels, sse2Kernels, avx2Kernels;
+extern const KernelSet mmxKernels, sseKernels, sse2Kernels, avx2Kernels, avx512Kernels;
 
 }  // namespace zorvic

@@ -6,7 +6,7 @@
 namespace zorvic {
 
 void ModulateImage(const BitmapLockInfo& dst, const BitmapLockInfo& src, std::uint32_t color) {
-    const ModulationSet& set = AtCurrentLevel(genericModulation, sse2Modulation, avx2Modulation);
+    const ModulationSet& set = AtCurrentLevel(genericModulation, sse2Modulation, avx2Modulation, avx512Modulation);
     const bool isOpaque = color >> 24 == 255;
     (isOpaque ? set.tint : set.modulate)[static_cast<int>(DepthOf(src.bmBitsPixel))](dst, src, color);
 }

@@ -13,6 +13,6 @@ struct ModulationSet {
     ColoredBlit tint[3], modulate[3];
 };
 
-extern const ModulationSet genericModulation, sse2Modulation, avx2Modulation;
+extern const ModulationSet genericModulation, sse2Modulation, avx2Modulation, avx512Modulation;
 
 }  // namespace zorvic

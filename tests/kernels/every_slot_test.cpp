@@ -18,11 +18,15 @@ protected:
         CpuFeatures features;
         features.cpuHasMMX = std::get<NamedKernels>(GetParam()).packedWeights;
         FillTables(features);
-        LimitLevel(std::get<NamedKernels>(GetParam()).widestPrimitives);
+        LimitLevel(std::get<NamedKernels>(GetParam()).form);
     }
     ~EverySlot() override {
         InitKernelTable();
-        LimitLevel(Level::avx2);
+        LimitLevel(widestLevel);
+    }
+
+    void SetUp() override {
+        if (std::get<NamedKernels>(GetParam()).form > BestLevel()) GTEST_SKIP() << "this processor has no such form";
     }
 
     const KernelSet& Kernels() const { return *std::get<NamedKernels>(GetParam()).kernels; }

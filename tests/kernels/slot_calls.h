@@ -19,7 +19,7 @@ struct NamedKernels {
     const char* name;
     const KernelSet* kernels;
     bool packedWeights;
-    Level widestPrimitives = Level::avx2;
+    Level form = Level::generic;  // of the pixel primitives
 
     friend void PrintTo(const NamedKernels& kernels, std::ostream* out) { *out << kernels.name; }
 };
@@ -28,11 +28,13 @@ inline constexpr NamedKernels kernelSets[] = {
     {"packed", &packedKernels, true},
     {"mmx", &mmxKernels, true},
     {"sse", &sseKernels, true},
-    {"sse2", &sse2Kernels, true},
-    {"avx2", &avx2Kernels, true},
+    {"sse2", &sse2Kernels, true, Level::sse2},
+    {"avx2", &avx2Kernels, true, Level::avx2},
+    {"avx512", &avx512Kernels, true, Level::avx512},
     {"routed_generic", &routedKernels, true, Level::generic},
     {"routed_sse2", &routedKernels, true, Level::sse2},
     {"routed_avx2", &routedKernels, true, Level::avx2},
+    {"routed_avx512", &routedKernels, true, Level::avx512},
 };
 
 struct SlotCall {

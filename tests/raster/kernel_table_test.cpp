@@ -21,7 +21,7 @@ const Offer offers[] = {{8, "msS"}, {9, "S"},   {10, "S"}, {11, "S"}, {16, "s"},
                         {52, "mr"}, {59, "mr"}, {61, ""},  {63, ""},  {67, "s"}, {68, "ms"}, {91, "msr"}, {98, "mr"}};
 
 TEST(KernelTable, EverySlotOfEveryProcessor) {
-    const std::optional<Level> levels[] = {std::nullopt, Level::generic, Level::sse2, Level::avx2};
+    const std::optional<Level> levels[] = {std::nullopt, Level::generic, Level::sse2, Level::avx512};
     for (const auto level : levels)
         for (int combination = 0; combination < 8; ++combination) {
             const bool mmx = (combination & 1) != 0, sse = (combination & 2) != 0, sse2 = (combination & 4) != 0;

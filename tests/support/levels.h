@@ -11,7 +11,7 @@ namespace zorvic {
 
 inline std::vector<Level> Levels() {
     std::vector<Level> levels;
-    for (const Level level : {Level::generic, Level::sse2, Level::avx2})
+    for (const Level level : {Level::generic, Level::sse2, Level::avx2, Level::avx512})
         if (LimitLevel(level) == level) levels.push_back(level);
     return levels;
 }
@@ -19,11 +19,11 @@ inline std::vector<Level> Levels() {
 class AtLevel : public testing::TestWithParam<Level> {
 protected:
     AtLevel() { LimitLevel(GetParam()); }
-    ~AtLevel() override { LimitLevel(Level::avx2); }
+    ~AtLevel() override { LimitLevel(widestLevel); }
 };
 
 inline const char* LevelName(const testing::TestParamInfo<Level>& info) {
-    constexpr const char* names[] = {"generic", "sse2", "avx2"};
+    constexpr const char* names[] = {"generic", "sse2", "avx2", "avx512"};
     return names[static_cast<int>(info.param)];
 }
 

@@ -13,8 +13,8 @@ struct EffectSet {
     void (*replaceColor)(std::uint32_t* pixels, int n, std::uint32_t from, std::uint32_t to);
 };
 
-extern const EffectSet genericEffects, sse2Effects, avx2Effects;
+extern const EffectSet genericEffects, sse2Effects, avx2Effects, avx512Effects;
 
-inline const EffectSet& Effects() { return AtCurrentLevel(genericEffects, sse2Effects, avx2Effects); }
+inline const EffectSet& Effects() { return AtCurrentLevel(genericEffects, sse2Effects, avx2Effects, avx512Effects); }
 
 }  // namespace zorvic

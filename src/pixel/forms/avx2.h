@@ -20,6 +20,16 @@ struct Avx2 {
     struct Wide {
         __m256i even, odd;
 
+        // Member by member: compilers copy the whole through the stack.
+        Wide() {}
+        Wide(__m256i evenNumbers, __m256i oddNumbers) : even(evenNumbers), odd(oddNumbers) {}
+        Wide(const Wide& other) : even(other.even), odd(other.odd) {}
+        Wide& operator=(const Wide& other) {
+            even = other.even;
+            odd = other.odd;
+            return *this;
+        }
+
         friend Wide operator+(Wide a, Wide b) {
             return {_mm256_add_epi16(a.even, b.even), _mm256_add_epi16(a.odd, b.odd)};
         }
@@ -56,26 +66,16 @@ struct Avx2 {
         return {_mm256_srli_epi16(_mm256_mullo_epi16(k.factors, l.factors), 8)};
     }
 
-    // Columns that stand close together come from one or two loads, which stay inside the row.
+    // Places that are close together come from one or two loads.
     template <int reach>
-    static Avx2 Pick(const std::uint32_t* row, const int* columns, int lastWindow) {
-        const __m256i all = LoadAll(columns);
-        if constexpr (reach == 0) {
-            return {_mm256_i32gather_epi32(reinterpret_cast<const int*>(row), all, 4)};
-        } else {
-            const int start = columns[0] < lastWindow ? columns[0] : lastWindow;
-            const __m256i from = _mm256_sub_epi32(all, _mm256_set1_epi32(start));
-            const __m256i nearPixels = _mm256_permutevar8x32_epi32(LoadAll(row + start), from);
-            if constexpr (reach == 1) {
-                return {nearPixels};
-            } else {
-                const int next = start + lanes < lastWindow ? start + lanes : lastWindow;
-                const __m256i fromNext = _mm256_sub_epi32(all, _mm256_set1_epi32(next));
-                const __m256i farPixels = _mm256_permutevar8x32_epi32(LoadAll(row + next), fromNext);
-                return {
-                    _mm256_blendv_epi8(nearPixels, farPixels, _mm256_cmpgt_epi32(from, _mm256_set1_epi32(lanes - 1)))};
-            }
-        }
+    static Avx2 Pick(const std::uint32_t* window, const int* lane) {
+        return PickFrom<reach>(window, LoadAll(lane));
+    }
+    template <int reach>
+    static void PickPairs(const std::uint32_t* window, const int* lane, Avx2& left, Avx2& right) {
+        const __m256i from = LoadAll(lane);
+        left = PickFrom<reach>(window, from);
+        right = PickFrom<reach>(window + 1, from);
     }
 
     // Rows i and i + 4 side by side.
@@ -147,6 +147,17 @@ struct Avx2 {
     friend Avx2 operator&(Avx2 a, Avx2 b) { return {_mm256_and_si256(a.pixels, b.pixels)}; }
 
 private:
+    template <int reach>
+    static Avx2 PickFrom(const std::uint32_t* window, __m256i from) {
+        if constexpr (reach == 0) return {_mm256_i32gather_epi32(reinterpret_cast<const int*>(window), from, 4)};
+        const __m256i nearPixels = _mm256_permutevar8x32_epi32(LoadAll(window), from);
+        if constexpr (reach == 1) return {nearPixels};
+        const __m256i farPixels = _mm256_permutevar8x32_epi32(LoadAll(window + lanes), from);
+        // Bit 3 of the place tells the window.
+        const __m256 isFar = _mm256_castsi256_ps(_mm256_slli_epi32(from, 28));
+        return {_mm256_castps_si256(
+            _mm256_blendv_ps(_mm256_castsi256_ps(nearPixels), _mm256_castsi256_ps(farPixels), isFar))};
+    }
     static __m256i LoadAll(const void* in) { return _mm256_loadu_si256(static_cast<const __m256i*>(in)); }
     static __m128i LoadHalf(const void* in) { return _mm_loadu_si128(static_cast<const __m128i*>(in)); }
     static void StoreAll(void* out, __m256i v) { _mm256_storeu_si256(static_cast<__m256i*>(out), v); }

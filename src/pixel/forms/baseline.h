@@ -43,8 +43,14 @@ struct Baseline {
     static Weight Uniform(int factor) { return static_cast<Weight>(factor); }
 
     template <int reach>
-    static Baseline Pick(const std::uint32_t* row, const int* columns, int) {
-        return Load(row + *columns);
+    static Baseline Pick(const std::uint32_t* window, const int* lane) {
+        return Load(window + *lane);
+    }
+
+    template <int reach>
+    static void PickPairs(const std::uint32_t* window, const int* lane, Baseline& left, Baseline& right) {
+        left = Load(window + *lane);
+        right = Load(window + *lane + 1);
     }
 
     static void LoadColumns(const std::byte* rows, std::ptrdiff_t, Baseline (&columns)[4]) {

@@ -16,7 +16,7 @@ namespace {
 
 template <class V>
 concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std::uint32_t* in, std::uint32_t* out,
-                        std::uint32_t word, int number, const int* columns, const TapGroup& taps, std::int16_t* sums,
+                        std::uint32_t word, int number, const int* places, const TapGroup& taps, std::int16_t* sums,
                         const std::int16_t* const* rows, const std::byte* bytes, std::ptrdiff_t step,
                         V (&columnVectors)[4]) {
     { V::lanes } -> std::convertible_to<int>;
@@ -62,8 +62,9 @@ concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std
     { Times256(w) } -> std::same_as<typename V::Wide>;
     { HighBytes(w) } -> std::same_as<V>;  // every number >> 8
 
-    // The pixels of a row at ascending columns, one for each lane. reach: see Columns in rows/columns.h.
-    { V::template Pick<0>(in, columns, number) } -> std::same_as<V>;
+    // The pixels at ascending places, one for each lane: of one or two vectors from there on, or anywhere for 0.
+    { V::template Pick<0>(in, places) } -> std::same_as<V>;
+    V::template PickPairs<0>(in, places, v, v);  // and their right neighbours
 
     // Four columns of `lanes` rows, each from top to bottom; step: bytes from row to row.
     V::LoadColumns(bytes, step, columnVectors);

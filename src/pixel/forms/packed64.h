@@ -23,6 +23,16 @@ struct Packed64 {
     struct Wide {
         __m64 even, odd;
 
+        // Member by member: compilers copy the whole through the stack.
+        Wide() {}
+        Wide(__m64 evenNumbers, __m64 oddNumbers) : even(evenNumbers), odd(oddNumbers) {}
+        Wide(const Wide& other) : even(other.even), odd(other.odd) {}
+        Wide& operator=(const Wide& other) {
+            even = other.even;
+            odd = other.odd;
+            return *this;
+        }
+
         friend Wide operator+(Wide a, Wide b) { return {_mm_add_pi16(a.even, b.even), _mm_add_pi16(a.odd, b.odd)}; }
         friend Wide operator-(Wide a, Wide b) { return {_mm_sub_pi16(a.even, b.even), _mm_sub_pi16(a.odd, b.odd)}; }
         friend Wide operator*(Wide a, Weight k) {
@@ -51,8 +61,15 @@ struct Packed64 {
     static Weight ScaleWeight(Weight k, Weight l) { return {_mm_srli_pi16(_mm_mullo_pi16(k.factors, l.factors), 8)}; }
 
     template <int reach>
-    static Packed64 Pick(const std::uint32_t* row, const int* columns, int) {
-        return {_mm_unpacklo_pi32(LoadOne(row + columns[0]), LoadOne(row + columns[1]))};
+    static Packed64 Pick(const std::uint32_t* window, const int* lane) {
+        return {_mm_unpacklo_pi32(LoadOne(window + lane[0]), LoadOne(window + lane[1]))};
+    }
+
+    template <int reach>
+    static void PickPairs(const std::uint32_t* window, const int* lane, Packed64& left, Packed64& right) {
+        const __m64 first = LoadAll(window + lane[0]), last = LoadAll(window + lane[1]);
+        left.pixels = _mm_unpacklo_pi32(first, last);
+        right.pixels = _mm_unpackhi_pi32(first, last);
     }
 
     static void LoadColumns(const std::byte* rows, std::ptrdiff_t step, Packed64 (&columns)[4]) {

@@ -20,6 +20,16 @@ struct Sse2 {
     struct Wide {
         __m128i even, odd;
 
+        // Member by member: compilers copy the whole through the stack.
+        Wide() {}
+        Wide(__m128i evenNumbers, __m128i oddNumbers) : even(evenNumbers), odd(oddNumbers) {}
+        Wide(const Wide& other) : even(other.even), odd(other.odd) {}
+        Wide& operator=(const Wide& other) {
+            even = other.even;
+            odd = other.odd;
+            return *this;
+        }
+
         friend Wide operator+(Wide a, Wide b) { return {_mm_add_epi16(a.even, b.even), _mm_add_epi16(a.odd, b.odd)}; }
         friend Wide operator-(Wide a, Wide b) { return {_mm_sub_epi16(a.even, b.even), _mm_sub_epi16(a.odd, b.odd)}; }
         friend Wide operator*(Wide a, Weight k) {
@@ -36,8 +46,7 @@ struct Sse2 {
     static Sse2 Load(const std::uint32_t* in) { return {LoadAll(in)}; }
     static Sse2 LoadPart(const std::uint32_t* in, int n) {
         if (n == 1) return {LoadOne(in)};
-        const __m128i two = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(in));
-        return {n == 2 ? two : _mm_unpacklo_epi64(two, LoadOne(in + 2))};
+        return {n == 2 ? LoadTwo(in) : _mm_unpacklo_epi64(LoadTwo(in), LoadOne(in + 2))};
     }
     static Sse2 Broadcast(std::uint32_t word) { return {_mm_set1_epi32(static_cast<int>(word))}; }
     static Weight Uniform(int factor) { return {_mm_set1_epi16(static_cast<short>(factor))}; }
@@ -45,9 +54,9 @@ struct Sse2 {
     static Weight ScaleWeight(Weight k, Weight l) { return {_mm_srli_epi16(_mm_mullo_epi16(k.factors, l.factors), 8)}; }
 
     template <int reach>
-    static Sse2 Pick(const std::uint32_t* row, const int* columns, int) {
-        const __m128i low = _mm_unpacklo_epi32(LoadOne(row + columns[0]), LoadOne(row + columns[1]));
-        const __m128i high = _mm_unpacklo_epi32(LoadOne(row + columns[2]), LoadOne(row + columns[3]));
+    static Sse2 Pick(const std::uint32_t* window, const int* lane) {
+        const __m128i low = _mm_unpacklo_epi32(LoadOne(window + lane[0]), LoadOne(window + lane[1]));
+        const __m128i high = _mm_unpacklo_epi32(LoadOne(window + lane[2]), LoadOne(window + lane[3]));
         return {_mm_unpacklo_epi64(low, high)};
     }
 
@@ -60,6 +69,14 @@ struct Sse2 {
         columns[1] = {_mm_unpackhi_epi64(left, leftBelow)};
         columns[2] = {_mm_unpacklo_epi64(right, rightBelow)};
         columns[3] = {_mm_unpackhi_epi64(right, rightBelow)};
+    }
+
+    template <int reach>
+    static void PickPairs(const std::uint32_t* window, const int* lane, Sse2& left, Sse2& right) {
+        const __m128i first = _mm_unpacklo_epi32(LoadTwo(window + lane[0]), LoadTwo(window + lane[1]));
+        const __m128i last = _mm_unpacklo_epi32(LoadTwo(window + lane[2]), LoadTwo(window + lane[3]));
+        left.pixels = _mm_unpacklo_epi64(first, last);
+        right.pixels = _mm_unpackhi_epi64(first, last);
     }
 
     static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {
@@ -117,6 +134,7 @@ private:
         std::memcpy(&word, in, sizeof word);
         return _mm_cvtsi32_si128(word);
     }
+    static __m128i LoadTwo(const std::uint32_t* in) { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(in)); }
     static void StoreOne(std::uint32_t* out, __m128i v) {
         const int word = _mm_cvtsi128_si32(v);
         std::memcpy(out, &word, sizeof word);
@@ -197,11 +215,11 @@ inline Sse2 ScaleRounded(Sse2 v, Sse2::Weight k) {
 }
 
 inline bool IsOpaque(Sse2 v) {
-    const __m128i alphas = _mm_or_si128(v.pixels, _mm_set1_epi32(0x00FFFFFF));
-    return _mm_movemask_epi8(_mm_cmpeq_epi32(alphas, _mm_set1_epi32(-1))) == 0xFFFF;
+    constexpr int alphaBytes = 0x8888;
+    return (~_mm_movemask_epi8(_mm_cmpeq_epi8(v.pixels, _mm_set1_epi32(-1))) & alphaBytes) == 0;
 }
 inline bool IsTransparentBlack(Sse2 v) {
-    return _mm_movemask_epi8(_mm_cmpeq_epi32(v.pixels, _mm_setzero_si128())) == 0xFFFF;
+    return _mm_movemask_epi8(_mm_cmpeq_epi8(v.pixels, _mm_setzero_si128())) == 0xFFFF;
 }
 
 }  // namespace

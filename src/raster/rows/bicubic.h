@@ -34,7 +34,7 @@ public:
         const RowWeights weights = WeightsAt(at.fraction);
         const std::int16_t* rows[4];
         for (int k = 0; k < 4; ++k) rows[k] = SumsOfRow(ClampIndex(at.pixel - 1 + k, src.bmHeight)).numbers;
-        StoreVectors<V>(out, n, [&](int i) { return V::MixSums(rows, i, weights); });
+        StoreVectors<V>(out, n, [&](int k) { return V::MixSums(rows, k * V::lanes, weights); });
         return out;
     }
 

@@ -22,76 +22,116 @@ public:
 
     BilinearRows(const BitmapLockInfo& source, const Placement& placement)
         : src(source),
+          readsPairs(depth == SourceDepth::argb32 && source.bmWidth > 1),
           stepsX(source.bmWidth, placement.width, placement.left),
-          stepsY(source.bmHeight, placement.height, placement.top) {}
+          stepsY(source.bmHeight, placement.height, placement.top),
+          keepsRows(stepsY.Step() < rowsPayBelow) {}
 
     void PrepareColumns(int x, int n) {
-        columnCount = n;
-        taps.Clear();
-        const auto column = [&](int i) { return stepsX.At(x + i).pixel; };
-        left.Prepare(n, src.bmWidth, [&](int i) { return ClampIndex(column(i), src.bmWidth); });
-        right.Prepare(n, src.bmWidth, [&](int i) { return ClampIndex(column(i) + 1, src.bmWidth); });
-        for (int i = 0; i < n; ++i) fraction[i] = static_cast<std::uint32_t>(stepsX.At(x + i).fraction);
-        for (int i = n; i % V::lanes != 0; ++i) fraction[i] = 0;
+        vectorCount = (n + V::lanes - 1) / V::lanes;
+        rows.Clear();
+        // A pair beyond an edge is the one at the edge, of which it shows one pixel.
+        const int lastPair = src.bmWidth > 1 ? src.bmWidth - 2 : 0;
+        columns.Prepare(n, src.bmWidth - 1, stepsX.Step(),
+                        [&](int i) { return ClampIndex(stepsX.At(x + i).pixel, lastPair + 1); });
+        alignas(64) std::uint32_t fractions[V::lanes] = {};
+        for (int i = 0; i < n; ++i) {
+            const Position at = stepsX.At(x + i);
+            fractions[i % V::lanes] = at.pixel < 0          ? 0
+                                      : at.pixel > lastPair ? 256
+                                                            : static_cast<std::uint32_t>(at.fraction);
+            tx[i / V::lanes] = V::LoadWeights(fractions);
+        }
     }
 
     const std::uint32_t* Fetch(int y, int, int n, std::uint32_t* out) {
         const Position at = stepsY.At(y);
-        const Taps& upper = TapsOfRow(ClampIndex(at.pixel, src.bmHeight));
-        const Taps& lower = TapsOfRow(ClampIndex(at.pixel + 1, src.bmHeight));
+        const int upper = ClampIndex(at.pixel, src.bmHeight), lower = ClampIndex(at.pixel + 1, src.bmHeight);
         const typename V::Weight ty = V::Uniform(at.fraction);
-        StoreVectors<V>(out, n, [&](int i) {
-            const int k = i / V::lanes;
-            const typename V::Weight both = V::ScaleWeight(V::LoadWeights(fraction + i), ty);
-            return HighBytes(upper.mixed[k] + (lower.left[k] - upper.left[k]) * ty +
-                             (lower.difference[k] - upper.difference[k]) * both);
-        });
+        if (depth != SourceDepth::argb32 || keepsRows || !readsPairs) {
+            const Row &u = TapsOfRow(upper), &l = TapsOfRow(lower);
+            StoreVectors<V>(out, n, [&](int k) { return Mix(u.taps[k], l.taps[k], tx[k], ty); });
+        } else {
+            const std::uint32_t *const u = Pixels(upper), *const l = Pixels(lower);
+            WithReach<V>(columns.ReachOfAll(), [&]<Reach reach>() {
+                StoreVectors<V>(out, n, [&](int k) {
+                    return Mix(TapsOf(PairsAt<reach>(u, k), tx[k]), TapsOf(PairsAt<reach>(l, k), tx[k]), tx[k], ty);
+                });
+            });
+        }
         return out;
     }
 
 private:
-    struct Taps {
-        typename V::Wide mixed[chunk / V::lanes];
-        typename V::Wide left[chunk / V::lanes];
-        typename V::Wide difference[chunk / V::lanes];
+    // Below this step rows are used often enough to be kept.
+    static constexpr std::int64_t rowsPayBelow = 0xC000;
+
+    struct Pairs {
+        V left, right;
     };
 
-    const Taps& TapsOfRow(int sourceRow) {
-        return taps.Get(sourceRow, [&](Taps& row) {
-            const std::byte* const bytes = SourceRow(src, sourceRow);
-            if constexpr (depth == SourceDepth::argb32) {
-                const auto* const pixels = reinterpret_cast<const std::uint32_t*>(bytes);
-                WithReach<V>(Wider(left.ReachOfAll(), right.ReachOfAll()), [&]<Reach reach>() {
-                    for (int i = 0; i < columnCount; i += V::lanes)
-                        Mix(row, i, left.template Pick<reach>(pixels, i), right.template Pick<reach>(pixels, i));
+    // What one vector of columns takes from one source row.
+    struct Taps {
+        typename V::Wide mixed, left, difference;
+    };
+
+    struct Row {
+        Taps taps[chunk / V::lanes];
+    };
+
+    const std::uint32_t* Pixels(int sourceRow) const {
+        return reinterpret_cast<const std::uint32_t*>(SourceRow(src, sourceRow));
+    }
+
+    template <Reach reach>
+    Pairs PairsAt(const std::uint32_t* row, int k) const {
+        Pairs pairs;
+        columns.template PickPairs<reach>(row, k, pairs.left, pairs.right);
+        return pairs;
+    }
+
+    Pairs ReadPairs(const std::byte* row, int k) const {
+        std::uint32_t left[V::lanes], right[V::lanes];
+        for (int i = 0; i < V::lanes; ++i) {
+            const int column = columns[k * V::lanes + i];
+            left[i] = ReadPixel<depth>(src, row, column);
+            right[i] = ReadPixel<depth>(src, row, ClampIndex(column + 1, src.bmWidth));
+        }
+        return {V::Load(left), V::Load(right)};
+    }
+
+    static Taps TapsOf(const Pairs& pairs, typename V::Weight t) {
+        const typename V::Wide left = Widened(pairs.left), difference = Widened(pairs.right) - left;
+        return {Times256(left) + difference * t, left, difference};
+    }
+
+    static V Mix(const Taps& upper, const Taps& lower, typename V::Weight t, typename V::Weight ty) {
+        return HighBytes(upper.mixed + (lower.left - upper.left) * ty +
+                         (lower.difference - upper.difference) * V::ScaleWeight(t, ty));
+    }
+
+    const Row& TapsOfRow(int sourceRow) {
+        return rows.Get(sourceRow, [&](Row& row) {
+            if (readsPairs) {
+                WithReach<V>(columns.ReachOfAll(), [&]<Reach reach>() {
+                    for (int k = 0; k < vectorCount; ++k)
+                        row.taps[k] = TapsOf(PairsAt<reach>(Pixels(sourceRow), k), tx[k]);
                 });
             } else {
-                for (int i = 0; i < columnCount; i += V::lanes) {
-                    std::uint32_t leftPixels[V::lanes], rightPixels[V::lanes];
-                    for (int lane = 0; lane < V::lanes; ++lane) {
-                        leftPixels[lane] = ReadPixel<depth>(src, bytes, left[i + lane]);
-                        rightPixels[lane] = ReadPixel<depth>(src, bytes, right[i + lane]);
-                    }
-                    Mix(row, i, V::Load(leftPixels), V::Load(rightPixels));
-                }
+                for (int k = 0; k < vectorCount; ++k)
+                    row.taps[k] = TapsOf(ReadPairs(SourceRow(src, sourceRow), k), tx[k]);
             }
         });
     }
 
-    void Mix(Taps& row, int i, V leftTaps, V rightTaps) const {
-        const int k = i / V::lanes;
-        const typename V::Wide wide = Widened(leftTaps), difference = Widened(rightTaps) - wide;
-        row.left[k] = wide;
-        row.difference[k] = difference;
-        row.mixed[k] = Times256(wide) + difference * V::LoadWeights(fraction + i);
-    }
-
     const BitmapLockInfo& src;
+    bool readsPairs;  // else each tap is read by itself
     CenteredSteps stepsX, stepsY;
-    int columnCount = 0;
-    Columns<V, blockWidth> left, right;
-    alignas(64) std::uint32_t fraction[chunk];
-    RowRing<Taps, 2> taps;
+    bool keepsRows;
+    int vectorCount = 0;
+    Columns<V, blockWidth> columns;
+    typename V::Weight tx[chunk / V::lanes];
+    RowRing<Row, 2> rows;
 };
 
 }  // namespace

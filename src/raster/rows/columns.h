@@ -12,33 +12,48 @@ enum class Reach { anywhere = 0, oneVector = 1, twoVectors = 2 };
 template <Form V, std::size_t blockWidth>
 class Columns {
 public:
-    // columnOf(i), i from 0 to n - 1, ascends. Whole vectors are prepared: the last column is repeated.
+    // columnOf(i), i from 0 to n - 1, ascends by a step of 16.16 pixels, but for its edges. Whole vectors are prepared:
+    // the last column is repeated.
     template <class Function>
-    void Prepare(int n, int sourceWidth, Function columnOf) {
-        for (int i = 0; i < n; ++i) columns[i] = columnOf(i);
-        for (int i = n; i % V::lanes != 0; ++i) columns[i] = columns[n - 1];
-        lastWindow = sourceWidth - V::lanes;
-        int span = 0;
+    void Prepare(int n, int sourceWidth, std::int64_t step, Function columnOf) {
+        for (int i = 0; i < n; ++i) lane[i] = columnOf(i);
+        for (int i = n; i % V::lanes != 0; ++i) lane[i] = lane[n - 1];
+        reach = Reach::anywhere;
+        if constexpr (V::picksFromWindows) reach = ReachOf(sourceWidth, step);
+        const int window = static_cast<int>(reach) * V::lanes;
         for (int i = 0; i < n; i += V::lanes) {
-            const int width = columns[i + V::lanes - 1] - columns[i];
-            if (width > span) span = width;
+            // Windows end inside the row.
+            const int first = window == 0 ? 0 : lane[i] < sourceWidth - window ? lane[i] : sourceWidth - window;
+            start[i / V::lanes] = first;
+            for (int k = 0; k < V::lanes; ++k) lane[i + k] -= first;
         }
-        reach = lastWindow < 0 || span >= 2 * V::lanes ? Reach::anywhere
-                : span < V::lanes                      ? Reach::oneVector
-                                                       : Reach::twoVectors;
     }
 
     Reach ReachOfAll() const { return reach; }
-    int operator[](int i) const { return columns[i]; }
+    int operator[](int i) const { return start[i / V::lanes] + lane[i]; }
 
+    // The pixels of vector k.
     template <Reach how>
-    V Pick(const std::uint32_t* row, int i) const {
-        return V::template Pick<static_cast<int>(how)>(row, columns + i, lastWindow);
+    V Pick(const std::uint32_t* row, int k) const {
+        return V::template Pick<static_cast<int>(how)>(row + start[k], lane + k * V::lanes);
+    }
+
+    // Each of them and its right neighbour.
+    template <Reach how>
+    void PickPairs(const std::uint32_t* row, int k, V& left, V& right) const {
+        V::template PickPairs<static_cast<int>(how)>(row + start[k], lane + k * V::lanes, left, right);
     }
 
 private:
-    alignas(64) int columns[blockWidth];
-    int lastWindow = 0;
+    static Reach ReachOf(int sourceWidth, std::int64_t step) {
+        const std::int64_t widest = ((V::lanes - 1) * step >> 16) + 2;
+        if (widest <= V::lanes && V::lanes <= sourceWidth) return Reach::oneVector;
+        return widest <= 2 * V::lanes && 2 * V::lanes <= sourceWidth ? Reach::twoVectors : Reach::anywhere;
+    }
+
+    // Column i is lane[i] pixels behind the start of its vector's window.
+    alignas(64) int lane[blockWidth];
+    int start[blockWidth / V::lanes];
     Reach reach = Reach::anywhere;
 };
 
@@ -52,17 +67,18 @@ void WithReach(Reach how, const Function& f) {
     f.template operator()<Reach::anywhere>();
 }
 
-constexpr Reach Wider(Reach a, Reach b) {
-    if (a == Reach::anywhere || b == Reach::anywhere) return Reach::anywhere;
-    return a > b ? a : b;
-}
-
-// make(i) for the vectors of n pixels.
+// make(k) for the vectors of n pixels.
 template <Form V, class Function>
 void StoreVectors(std::uint32_t* out, int n, const Function& make) {
-    int i = 0;
-    for (; i <= n - V::lanes; i += V::lanes) make(i).Store(out + i);
-    if (i < n) make(i).StorePart(out + i, n - i);
+    // One place for make, so that it is compiled into the loop.
+    for (int k = 0; n > 0; ++k, out += V::lanes, n -= V::lanes) {
+        const V v = make(k);
+        if (n >= V::lanes) {
+            v.Store(out);
+        } else {
+            v.StorePart(out, n);
+        }
+    }
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ public:
     void PrepareColumns(int x, int n) {
         // Positions stay below the source's width, so 32 bits hold them.
         auto position = static_cast<std::uint32_t>((left + x) * stepX);
-        columns.Prepare(n, src.bmWidth, [&](int) {
+        columns.Prepare(n, src.bmWidth, stepX, [&](int) {
             const auto column = static_cast<int>(position >> 16);
             position += static_cast<std::uint32_t>(stepX);
             return column;
@@ -41,7 +41,7 @@ public:
         if constexpr (depth == SourceDepth::argb32) {
             const auto* const pixels = reinterpret_cast<const std::uint32_t*>(row);
             WithReach<V>(columns.ReachOfAll(), [&]<Reach reach>() {
-                StoreVectors<V>(out, n, [&](int i) { return columns.template Pick<reach>(pixels, i); });
+                StoreVectors<V>(out, n, [&](int k) { return columns.template Pick<reach>(pixels, k); });
             });
         } else {
             for (int i = 0; i < n; ++i) StorePixel(out + i, ReadPixel<depth>(src, row, columns[i]));

@@ -24,6 +24,8 @@ public:
         : step((static_cast<std::int64_t>(sourceExtent) << 16) / drawExtent + 1),
           start((step >> 1) - 32768 + firstIndex * step) {}
 
+    std::int64_t Step() const { return step; }
+
     Position At(int i) const {
         const std::int64_t f = start + i * step;
         return {f >> 16, static_cast<int>(f >> 8 & 0xFF)};
