@@ -3,91 +3,73 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
-#include <cstring>
 #include <memory>
 #include <new>
 
+#include "effects/pixels/effect_set.h"
 #include "raster/image.h"
 
 namespace zorvic {
 
 namespace {
 
-// A constant count, so that the compiler turns loops over a block into vectors; rows are padded to whole blocks.
-constexpr std::ptrdiff_t blockBytes = 64;
-
-template <class Item>
-std::unique_ptr<Item[]> Allocate(std::ptrdiff_t items) {
-    return std::unique_ptr<Item[]>(new (std::nothrow) Item[static_cast<std::size_t>(items)]{});
+std::uint32_t* RowOf(const BitmapLockInfo& image, int y) {
+    return reinterpret_cast<std::uint32_t*>(static_cast<std::byte*>(image.bmBits) +
+                                            std::ptrdiff_t{y} * image.bmWidthBytes);
 }
 
-std::byte* RowOf(const BitmapLockInfo& image, int y) {
-    return static_cast<std::byte*>(image.bmBits) + static_cast<std::ptrdiff_t>(y) * image.bmWidthBytes;
-}
+// Vectors that straddle cache lines would take half as long again.
+constexpr std::align_val_t alignment{64};
+constexpr int alignedWords = 16;
 
-class RowBlur {
+struct FreeAligned {
+    void operator()(std::uint32_t* words) const { ::operator delete[](words, alignment); }
+};
+
+class NeighborSums {
 public:
-    explicit RowBlur(const BitmapLockInfo& source)
-        : src(source),
-          rowBytes(static_cast<std::ptrdiff_t>(source.bmWidth) * 4),
-          length((rowBytes + blockBytes - 1) / blockBytes * blockBytes),
-          sums(Allocate<std::uint16_t>(3 * length)),
-          padded(Allocate<std::uint8_t>(length + 8)),
-          blurred(Allocate<std::uint8_t>(length)) {}
+    explicit NeighborSums(const BitmapLockInfo& source)
+        : plane((source.bmWidth + alignedWords - 1) / alignedWords * alignedWords),
+          src(source),
+          sums(new (alignment, std::nothrow)
+                   std::uint32_t[static_cast<std::size_t>(6) * static_cast<unsigned>(plane)]) {}
 
     // False when memory is short.
-    explicit operator bool() const { return sums && padded && blurred; }
+    explicit operator bool() const { return sums != nullptr; }
 
-    // The blurred row y of the source. Rows that were asked for one after another from 0 on may be overwritten.
-    const std::uint8_t* Row(int y) {
-        const std::uint16_t *above = SumsOf(y - 1), *here = SumsOf(y), *below = SumsOf(y + 1);
-        for (std::ptrdiff_t i = 0; i < length; i += blockBytes)
-            for (std::ptrdiff_t k = i; k < i + blockBytes; ++k) {
-                const auto sum = static_cast<std::uint16_t>(above[k] + here[k] + below[k]);
-                // A ninth: exact up to 16383.
-                blurred[static_cast<std::size_t>(k)] = static_cast<std::uint8_t>(sum * 7282U >> 16);
-            }
-        return blurred.get();
-    }
-
-private:
-    const std::uint16_t* SumsOf(int y) {
+    // Rows that were asked for, and those before them, may be overwritten.
+    const std::uint32_t* OfRow(int y) {
         const int row = std::clamp<int>(y, 0, src.bmHeight - 1);
-        std::uint16_t* const target = sums.get() + row % 3 * length;
-        if (held[row % 3] == row) return target;
+        std::uint32_t* const target = sums.get() + row % 3 * std::ptrdiff_t{2} * plane;
+        if (held[row % 3] != row) Effects().sumNeighbors(RowOf(src, row), src.bmWidth, target, plane);
         held[row % 3] = row;
-
-        // One pixel to the left and right: the neighbour's channel stands 4 bytes away.
-        const std::byte* pixels = RowOf(src, row);
-        std::uint8_t* const bytes = padded.get();
-        std::memcpy(bytes, pixels, 4);
-        std::memcpy(bytes + 4, pixels, static_cast<std::size_t>(rowBytes));
-        std::memcpy(bytes + 4 + rowBytes, pixels + rowBytes - 4, 4);
-        for (std::ptrdiff_t i = 0; i < length; i += blockBytes)
-            for (std::ptrdiff_t k = i; k < i + blockBytes; ++k)
-                target[k] = static_cast<std::uint16_t>(bytes[k] + bytes[k + 4] + bytes[k + 8]);
         return target;
     }
 
+    const int plane;
+
+private:
     const BitmapLockInfo& src;
-    std::ptrdiff_t rowBytes, length;
-    std::unique_ptr<std::uint16_t[]> sums;  // of three rows, row y in place y modulo 3
-    std::unique_ptr<std::uint8_t[]> padded, blurred;
-    int held[3] = {-1, -1, -1};  // which
+    std::unique_ptr<std::uint32_t[], FreeAligned> sums;  // of three rows, row y in place y modulo 3
+    int held[3] = {-1, -1, -1};                          // which
 };
 
 }  // namespace
 
 void BoxBlur(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
     if (dst.bmBitsPixel != 32 || src.bmBitsPixel != 32 || IsEmpty(dst) || IsEmpty(src)) return;
-    RowBlur blur(src);
-    if (!blur) return;
+    NeighborSums sums(src);
+    if (!sums) return;
     const int rows = std::min(dst.bmHeight, src.bmHeight), columns = std::min(dst.bmWidth, src.bmWidth);
-    for (int y = 0; y < rows; ++y) {
-        const std::uint8_t* row = blur.Row(y == rows - 1 ? src.bmHeight - 1 : y);
-        std::memcpy(RowOf(dst, y), row, static_cast<std::size_t>(columns) * 4);
-        std::memcpy(RowOf(dst, y) + std::ptrdiff_t{4} * (columns - 1), row + std::ptrdiff_t{4} * (src.bmWidth - 1), 4);
+    const int lastColumn = src.bmWidth - 1;
+    const auto meanOfNine = Effects().meanOfNine;
+    for (int i = 0; i < rows; ++i) {
+        const int y = i == rows - 1 ? src.bmHeight - 1 : i;
+        const std::uint32_t *const above = sums.OfRow(y - 1), *const here = sums.OfRow(y),
+                                   *const below = sums.OfRow(y + 1);
+        std::uint32_t* const row = RowOf(dst, i);
+        meanOfNine(above, here, below, sums.plane, row, columns);
+        meanOfNine(above + lastColumn, here + lastColumn, below + lastColumn, sums.plane, row + columns - 1, 1);
     }
 }
 

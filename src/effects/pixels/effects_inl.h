@@ -2,6 +2,7 @@
 // pixel/forms/form.h.
 #pragma once
 
+#include "effects/pixels/box_rows.h"
 #include "effects/pixels/effect_set.h"
 #include "effects/pixels/tone_ops.h"
 #include "pixel/spans_inl.h"
@@ -33,6 +34,8 @@ consteval EffectSet MakeEffects() {
             [](std::uint32_t* pixels, int n, std::uint32_t from, std::uint32_t to) {
                 RunInPlace<V>(Replace{from, to}, pixels, n);
             },
+        .sumNeighbors = SumNeighbors<V>,
+        .meanOfNine = MeanOfNine<V>,
     };
 }
 

@@ -129,6 +129,8 @@ struct Avx2 {
         return {_mm256_permute4x64_epi64(packed, _MM_SHUFFLE(3, 1, 2, 0))};
     }
 
+    static Wide LoadWide(const std::uint32_t* even, const std::uint32_t* odd) { return {LoadAll(even), LoadAll(odd)}; }
+
     void Store(std::uint32_t* out) const { StoreAll(out, pixels); }
     // In pieces: masked stores are slow on many processors.
     void StorePart(std::uint32_t* out, int n) const {
@@ -206,6 +208,16 @@ inline Avx2::Wide Times256(Avx2::Wide w) { return {_mm256_slli_epi16(w.even, 8),
 inline Avx2 HighBytes(Avx2::Wide w) {
     const __m256i odd = _mm256_andnot_si256(_mm256_set1_epi16(0xFF), w.odd);
     return {_mm256_or_si256(_mm256_srli_epi16(w.even, 8), odd)};
+}
+
+inline Avx2 LowBytes(Avx2::Wide w) { return {_mm256_or_si256(w.even, _mm256_slli_epi16(w.odd, 8))}; }
+inline Avx2::Wide HighProducts(Avx2::Wide w, int number) {
+    const __m256i k = _mm256_set1_epi16(static_cast<short>(number));
+    return {_mm256_mulhi_epi16(w.even, k), _mm256_mulhi_epi16(w.odd, k)};
+}
+inline void StoreWide(Avx2::Wide w, std::uint32_t* even, std::uint32_t* odd) {
+    Avx2{w.even}.Store(even);
+    Avx2{w.odd}.Store(odd);
 }
 
 // Every byte of b by the 16-bit factor of its place, >> 8. The high half of a product needs no shift.

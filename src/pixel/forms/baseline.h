@@ -79,6 +79,8 @@ struct Baseline {
         return {pixel};
     }
 
+    static Wide LoadWide(const std::uint32_t* even, const std::uint32_t* odd) { return {*even, *odd}; }
+
     void Store(std::uint32_t* out) const { std::memcpy(out, &pixel, sizeof pixel); }
     void StorePart(std::uint32_t*, int) const {}
 
@@ -132,6 +134,19 @@ inline Baseline::Weight InverseAlpha(Baseline v) { return 256 - (v.pixel >> 24);
 inline Baseline::Wide Widened(Baseline v) { return {v.pixel & evenBytes, v.pixel >> 8 & evenBytes}; }
 inline Baseline::Wide Times256(Baseline::Wide w) { return {w.even << 8, w.odd << 8}; }
 inline Baseline HighBytes(Baseline::Wide w) { return {(w.even >> 8 & evenBytes) | (w.odd & oddBytes)}; }
+
+inline Baseline LowBytes(Baseline::Wide w) { return {w.even | w.odd << 8}; }
+inline Baseline::Wide HighProducts(Baseline::Wide w, int number) {
+    const auto product = [=](std::uint32_t two) {
+        const auto k = static_cast<std::uint32_t>(number);
+        return (two & 0xFFFF) * k >> 16 | ((two >> 16) * k & 0xFFFF0000);
+    };
+    return {product(w.even), product(w.odd)};
+}
+inline void StoreWide(Baseline::Wide w, std::uint32_t* even, std::uint32_t* odd) {
+    *even = w.even;
+    *odd = w.odd;
+}
 
 inline Baseline Scale(Baseline v, Baseline::Weight k) { return HighBytes(Widened(v) * k); }
 

@@ -60,7 +60,11 @@ concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std
     { w - w } -> std::same_as<typename V::Wide>;
     { w* k } -> std::same_as<typename V::Wide>;
     { Times256(w) } -> std::same_as<typename V::Wide>;
-    { HighBytes(w) } -> std::same_as<V>;  // every number >> 8
+    { HighBytes(w) } -> std::same_as<V>;                            // every number >> 8
+    { LowBytes(w) } -> std::same_as<V>;                             // of numbers below 256
+    { HighProducts(w, number) } -> std::same_as<typename V::Wide>;  // every a x number >> 16, both below 32768
+    { V::LoadWide(in, in) } -> std::same_as<typename V::Wide>;      // of each pixel one word with blue and red,
+    StoreWide(w, out, out);                                         // and in another place one with green and alpha
 
     // The pixels at ascending places, one for each lane: of one or two vectors from there on, or anywhere for 0.
     { V::template Pick<0>(in, places) } -> std::same_as<V>;

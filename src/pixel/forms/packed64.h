@@ -114,6 +114,8 @@ struct Packed64 {
         return {_mm_packs_pu16(mixed(4 * i), mixed(4 * i + 4))};
     }
 
+    static Wide LoadWide(const std::uint32_t* even, const std::uint32_t* odd) { return {LoadAll(even), LoadAll(odd)}; }
+
     void Store(std::uint32_t* out) const { StoreAll(out, pixels); }
     void StorePart(std::uint32_t* out, int) const {
         const int word = _mm_cvtsi64_si32(pixels);
@@ -160,6 +162,16 @@ struct Packed64 {
     friend Wide Times256(Wide w) { return {_mm_slli_pi16(w.even, 8), _mm_slli_pi16(w.odd, 8)}; }
     friend Packed64 HighBytes(Wide w) {
         return {_mm_or_si64(_mm_srli_pi16(w.even, 8), _mm_andnot_si64(LowBytes(), w.odd))};
+    }
+
+    friend Packed64 LowBytes(Wide w) { return {_mm_or_si64(w.even, _mm_slli_pi16(w.odd, 8))}; }
+    friend Wide HighProducts(Wide w, int number) {
+        const __m64 k = _mm_set1_pi16(static_cast<short>(number));
+        return {_mm_mulhi_pi16(w.even, k), _mm_mulhi_pi16(w.odd, k)};
+    }
+    friend void StoreWide(Wide w, std::uint32_t* even, std::uint32_t* odd) {
+        StoreAll(even, w.even);
+        StoreAll(odd, w.odd);
     }
 
     friend Packed64 Scale(Packed64 v, Weight k) { return HighBytes(Widened(v) * k); }

@@ -112,6 +112,8 @@ struct Sse2 {
         return {_mm_packus_epi16(mixed(4 * i), mixed(4 * i + 8))};
     }
 
+    static Wide LoadWide(const std::uint32_t* even, const std::uint32_t* odd) { return {LoadAll(even), LoadAll(odd)}; }
+
     void Store(std::uint32_t* out) const { StoreAll(out, pixels); }
     void StorePart(std::uint32_t* out, int n) const {
         if (n == 1) return StoreOne(out, pixels);
@@ -182,6 +184,16 @@ inline Sse2::Wide Times256(Sse2::Wide w) { return {_mm_slli_epi16(w.even, 8), _m
 inline Sse2 HighBytes(Sse2::Wide w) {
     const __m128i odd = _mm_andnot_si128(_mm_set1_epi16(0xFF), w.odd);
     return {_mm_or_si128(_mm_srli_epi16(w.even, 8), odd)};
+}
+
+inline Sse2 LowBytes(Sse2::Wide w) { return {_mm_or_si128(w.even, _mm_slli_epi16(w.odd, 8))}; }
+inline Sse2::Wide HighProducts(Sse2::Wide w, int number) {
+    const __m128i k = _mm_set1_epi16(static_cast<short>(number));
+    return {_mm_mulhi_epi16(w.even, k), _mm_mulhi_epi16(w.odd, k)};
+}
+inline void StoreWide(Sse2::Wide w, std::uint32_t* even, std::uint32_t* odd) {
+    Sse2{w.even}.Store(even);
+    Sse2{w.odd}.Store(odd);
 }
 
 // Every byte of b by the 16-bit factor of its place, >> 8. The high half of a product needs no shift.
