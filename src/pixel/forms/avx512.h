@@ -129,6 +129,8 @@ struct Avx512 {
         return {_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), packed)};
     }
 
+    static Wide LoadWide(const std::uint32_t* even, const std::uint32_t* odd) { return {LoadAll(even), LoadAll(odd)}; }
+
     void Store(std::uint32_t* out) const { _mm512_storeu_si512(out, pixels); }
     void StorePart(std::uint32_t* out, int n) const { _mm512_mask_storeu_epi32(out, First(n), pixels); }
 
@@ -201,6 +203,16 @@ inline Avx512::Wide Widened(Avx512 v) {
 inline Avx512::Wide Times256(Avx512::Wide w) { return {_mm512_slli_epi16(w.even, 8), _mm512_slli_epi16(w.odd, 8)}; }
 inline Avx512 HighBytes(Avx512::Wide w) {
     return {Select(_mm512_set1_epi16(0xFF), _mm512_srli_epi16(w.even, 8), w.odd)};
+}
+
+inline Avx512 LowBytes(Avx512::Wide w) { return {_mm512_or_si512(w.even, _mm512_slli_epi16(w.odd, 8))}; }
+inline Avx512::Wide HighProducts(Avx512::Wide w, int number) {
+    const __m512i k = _mm512_set1_epi16(static_cast<short>(number));
+    return {_mm512_mulhi_epi16(w.even, k), _mm512_mulhi_epi16(w.odd, k)};
+}
+inline void StoreWide(Avx512::Wide w, std::uint32_t* even, std::uint32_t* odd) {
+    Avx512{w.even}.Store(even);
+    Avx512{w.odd}.Store(odd);
 }
 
 // Every byte of b by the 16-bit factor of its place, >> 8. The high half of a product needs no shift.
