@@ -1,4 +1,5 @@
 /* Zorvic: 2D raster graphics for Windows desktop programs. Usable from C and C++; link libzorvic32.
+ * C++20 hosts may prefer zorvic.hpp, where handles own what they name.
  *
  * Handles.  A bitmap (HGBITMAP) is one pixel surface, in heap memory or in a GDI DIB section. A texture (HGTEXTURE) is
  *   a bitmap with a layout mode and slices; a canvas (HGCANVAS) is what everything draws on: a surface of its own, or a
@@ -337,13 +338,19 @@ ZORVIC_API HGBITMAP ZORVIC_CALL GetBitmap(HGCANVAS canvas);
 
 /* ------------------------------------------------------------------------------------------- drawing bitmaps */
 
-/** Chooses the kernel of the bicubic filter, for the whole process: 0 cubic convolution with a = -1 (sharp),
- *  1 cubic B-spline (smooth, the default), other values cubic convolution again. No other thread may be stretching.
- *  Sources: R. Keys, "Cubic convolution interpolation for digital image processing", 1981; the B-spline is the cubic
- *  basis spline sampled as a kernel. \return 1; 0 when this mode is set already */
+/** Kernels of ZORVIC_FILTER_BICUBIC; any other value is cubic convolution too. Sources: R. Keys, "Cubic convolution
+ *  interpolation for digital image processing", 1981; the B-spline is the cubic basis spline sampled as a kernel. */
+enum {
+    ZORVIC_KERNEL_CUBIC_CONVOLUTION = 0, /**< with a = -1: sharp */
+    ZORVIC_KERNEL_B_SPLINE = 1           /**< smooth; the default */
+};
+
+/** Chooses the kernel of the bicubic filter, for the whole process. No other thread may be stretching.
+ *  \param mode  see ZORVIC_KERNEL_CUBIC_CONVOLUTION
+ *  \return 1; 0 when this mode is set already */
 ZORVIC_API int ZORVIC_CALL SetStretchKernelMode(DWORD mode);
 
-/** \return the kernel mode of the bicubic filter */
+/** \return the kernel of the bicubic filter, see ZORVIC_KERNEL_CUBIC_CONVOLUTION */
 ZORVIC_API DWORD ZORVIC_CALL GetStretchKernelMode(void);
 
 /** DrawBitmapEx with opacity 255. */
@@ -405,11 +412,17 @@ enum {
     ZORVIC_LAYOUT_CENTER = 3,           /**< DrawTextureCenter */
     ZORVIC_LAYOUT_NINE_GRID_FILLED = 4, /**< DrawTexture9Grid with a one-colour centre */
     ZORVIC_LAYOUT_TOP_TILE = 5,         /**< DrawTextureTopTile */
-    ZORVIC_LAYOUT_UNIFORM = 6           /**< DrawTextureUniform, centred if the argument is 1 */
+    ZORVIC_LAYOUT_UNIFORM = 6           /**< DrawTextureUniform; the argument may be ZORVIC_UNIFORM_CENTERED */
 };
 
 /** Flags of DrawTextureTile. */
 enum { ZORVIC_TILE_SCALED = 0x10 /**< tiles are drawn scaled */ };
+
+/** The argument of ZORVIC_LAYOUT_UNIFORM. */
+enum { ZORVIC_UNIFORM_CENTERED = 1 /**< the middle of the texture is shown */ };
+
+/** Edge flags of DrawTexture9Grid, to be combined. */
+enum { ZORVIC_EDGE_LEFT = 1, ZORVIC_EDGE_TOP = 2, ZORVIC_EDGE_RIGHT = 4, ZORVIC_EDGE_BOTTOM = 8 };
 
 /** Draws a slice as large as dst allows without distortion, in the middle of dst.
  *  \return 1; 0 for NULL or a bad slice */
@@ -443,7 +456,7 @@ ZORVIC_API_CXX int ZORVIC_CALL DrawTextureTopTile(HGCANVAS canvas, const RECT* d
  *                           the two widths and heights
  *  \param centerFill        not 0: the centre is filled (as by FillPreMulColorRectEx, with the texture's operation
  *                           word) with the pixel in the middle of the slice's centre, scaled by the opacity
- *  \param edgeFlags         margins to be limited once more: left 1, top 2, right 4, bottom 8. Without effect
+ *  \param edgeFlags         margins to be limited once more, see ZORVIC_EDGE_LEFT. Without effect
  *  \param destinationScale  above 1: margins on dst are that much larger; the record is scaled as a rectangle, so that
  *                           right and bottom may differ by the rounding
  *  \param sourceScale       not 1: slice and margins are divided by it, and margins on dst multiplied
@@ -525,10 +538,13 @@ ZORVIC_API int ZORVIC_CALL FillRectangleEx(HGCANVAS canvas, const RECT* rect, DW
 /** FillRectangleEx with rounded corners. \param corner x and y radius in pixels */
 ZORVIC_API int ZORVIC_CALL FillRoundRectEx(HGCANVAS canvas, const RECT* rect, const POINT* corner, DWORD color);
 
+/** Directions of FillGradualRect. */
+enum { ZORVIC_GRADUAL_TOP_TO_BOTTOM = 1, ZORVIC_GRADUAL_LEFT_TO_RIGHT = 2 };
+
 /** Fills a rectangle with a gradient between two colours.
  *  \param colorFrom,colorTo  straight ARGB; when they are equal once premultiplied, this is FillSolidRect
  *  \param rect               logical pixels
- *  \param direction          1 top to bottom, 2 left to right; any other value is FillSolidRect with colorFrom
+ *  \param direction          see ZORVIC_GRADUAL_TOP_TO_BOTTOM; any other value is FillSolidRect with colorFrom
  *  \return 1; 0 for NULL */
 ZORVIC_API int ZORVIC_CALL FillGradualRect(HGCANVAS canvas, DWORD colorFrom, DWORD colorTo, const RECT* rect,
                                            DWORD direction);
@@ -594,10 +610,39 @@ ZORVIC_API void ZORVIC_CALL SetColor(HGCANVAS canvas, DWORD color);
 /** 0 turns anti-aliasing off. At first on. */
 ZORVIC_API void ZORVIC_CALL SetSmooth(HGCANVAS canvas, int smooth);
 
-/** How shapes meet the pixels: 0 source-over, 1 source, 2 destination-over, 3 clear, 4 source-in, 5 destination-in,
- *  6 source-out, 7 destination-out, 8 source-atop, 9 destination-atop, 10 xor, 11 plus, 12 multiply, 13 screen,
- *  14 overlay, 15 darken, 16 lighten, 17 colour-dodge, 18 colour-burn, 19 hard-light, 20 soft-light, 21 difference,
- *  22 exclusion, 23 hue, 24 saturation, 25 colour, 26 luminosity; other values change nothing. At first 0. */
+/** How shapes, of colour S and alpha s, meet the pixels, of colour D and alpha d, both premultiplied. From MULTIPLY on
+ *  they are composed as SOURCE_OVER, but mixed by the function of that name in PDF's blend modes where both cover. */
+enum {
+    ZORVIC_BLEND_SOURCE_OVER = 0,      /**< S + D(1 - s) */
+    ZORVIC_BLEND_SOURCE = 1,           /**< S */
+    ZORVIC_BLEND_DESTINATION_OVER = 2, /**< S(1 - d) + D */
+    ZORVIC_BLEND_CLEAR = 3,            /**< 0 */
+    ZORVIC_BLEND_SOURCE_IN = 4,        /**< S d */
+    ZORVIC_BLEND_DESTINATION_IN = 5,   /**< D s */
+    ZORVIC_BLEND_SOURCE_OUT = 6,       /**< S(1 - d) */
+    ZORVIC_BLEND_DESTINATION_OUT = 7,  /**< D(1 - s) */
+    ZORVIC_BLEND_SOURCE_ATOP = 8,      /**< S d + D(1 - s) */
+    ZORVIC_BLEND_DESTINATION_ATOP = 9, /**< S(1 - d) + D s */
+    ZORVIC_BLEND_XOR = 10,             /**< S(1 - d) + D(1 - s) */
+    ZORVIC_BLEND_PLUS = 11,            /**< S + D, at most 1 */
+    ZORVIC_BLEND_MULTIPLY = 12,
+    ZORVIC_BLEND_SCREEN = 13,
+    ZORVIC_BLEND_OVERLAY = 14,
+    ZORVIC_BLEND_DARKEN = 15,
+    ZORVIC_BLEND_LIGHTEN = 16,
+    ZORVIC_BLEND_COLOR_DODGE = 17,
+    ZORVIC_BLEND_COLOR_BURN = 18,
+    ZORVIC_BLEND_HARD_LIGHT = 19,
+    ZORVIC_BLEND_SOFT_LIGHT = 20,
+    ZORVIC_BLEND_DIFFERENCE = 21,
+    ZORVIC_BLEND_EXCLUSION = 22,
+    ZORVIC_BLEND_HUE = 23,
+    ZORVIC_BLEND_SATURATION = 24,
+    ZORVIC_BLEND_COLOR = 25,
+    ZORVIC_BLEND_LUMINOSITY = 26
+};
+
+/** How shapes meet the pixels, see ZORVIC_BLEND_SOURCE_OVER, which is set at first. Other values change nothing. */
 ZORVIC_API void ZORVIC_CALL SetBlendMode(HGCANVAS canvas, int mode);
 
 /** \return the blend mode; -1 for NULL or a canvas without a surface */
@@ -609,10 +654,16 @@ ZORVIC_API void ZORVIC_CALL SetBlendValue(HGCANVAS canvas, int value);
 /** \return the opacity; 255 for NULL or a canvas without a surface */
 ZORVIC_API int ZORVIC_CALL GetBlendValue(HGCANVAS canvas);
 
-/** How strokes end: 0 butt, 1 round, 2 square. At first 0. */
+/** Ends of open strokes. */
+enum { ZORVIC_CAP_BUTT = 0, ZORVIC_CAP_ROUND = 1, ZORVIC_CAP_SQUARE = 2 };
+
+/** How strokes end, see ZORVIC_CAP_BUTT, which is set at first. */
 ZORVIC_API void ZORVIC_CALL SetStrokeCap(HGCANVAS canvas, int cap);
 
-/** How strokes turn corners: 0 miter (limit 10), 1 round, 2 bevel. At first 0. */
+/** Corners of strokes. A miter longer than 10 stroke widths becomes a bevel. */
+enum { ZORVIC_JOIN_MITER = 0, ZORVIC_JOIN_ROUND = 1, ZORVIC_JOIN_BEVEL = 2 };
+
+/** How strokes turn corners, see ZORVIC_JOIN_MITER, which is set at first. */
 ZORVIC_API void ZORVIC_CALL SetStrokeJoin(HGCANVAS canvas, int join);
 
 /** The gradient of ZORVIC_DRAW_GRADIENT; NULL, none. The canvas keeps what it needs: it may be destroyed at once. */
@@ -624,8 +675,16 @@ ZORVIC_API void ZORVIC_CALL SetStrokeWidth(HGCANVAS canvas, float width);
 /** \return the width of strokes; 1 for NULL or a canvas without a surface */
 ZORVIC_API float ZORVIC_CALL GetStrokeWidth(HGCANVAS canvas);
 
-/** Dashes: 0 solid, 1 dash, 2 dot, 3 dash-dot, 4 dash-dot-dot; a dash is 3 stroke widths long, dots and gaps 1. The
- *  later of a dash style and a dash pattern counts. At first 0. */
+/** Dash styles: a dash is 3 stroke widths long, dots and gaps 1. */
+enum {
+    ZORVIC_DASH_SOLID = 0,
+    ZORVIC_DASH_DASH = 1,
+    ZORVIC_DASH_DOT = 2,
+    ZORVIC_DASH_DASH_DOT = 3,
+    ZORVIC_DASH_DASH_DOT_DOT = 4
+};
+
+/** Dashes, see ZORVIC_DASH_SOLID, which is set at first. The later of a dash style and a dash pattern counts. */
 ZORVIC_API void ZORVIC_CALL SetDashStyle(HGCANVAS canvas, BYTE style);
 
 /** Dashes of the host's own.
@@ -845,8 +904,15 @@ ZORVIC_API HRGN ZORVIC_CALL CreateTextureRgn(HGTEXTURE texture, const RECT* area
  *  \return 0 also for other depths and when right or bottom lies outside src */
 ZORVIC_API int ZORVIC_CALL CopyBitmap_IPP(const BITMAP* src, BITMAP* dst, const RECT* area);
 
+/** How Mirror and MirrorEx mirror. */
+enum {
+    ZORVIC_MIRROR_VERTICAL = 0,   /**< top to bottom */
+    ZORVIC_MIRROR_HORIZONTAL = 1, /**< left to right */
+    ZORVIC_MIRROR_BOTH = 2        /**< half a turn */
+};
+
 /** Mirrors an image of four bytes per pixel in place.
- *  \param axis  0 top to bottom, 1 left to right, 2 both, which is half a turn
+ *  \param axis  see ZORVIC_MIRROR_VERTICAL
  *  \return 0 also for another axis */
 ZORVIC_API int ZORVIC_CALL Mirror(BITMAP* image, int axis);
 
