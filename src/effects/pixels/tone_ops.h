@@ -21,11 +21,10 @@ struct InvertInAlpha {
     }
 };
 
-// alpha + 1 = 256 - (255 - alpha).
 struct Premultiply {
     template <Form V>
     V operator()(V, V pixel) const {
-        return WithAlphaOf(Scale(pixel, InverseAlpha(InvertBytes(pixel))), pixel);
+        return WithAlphaOf(Scale(pixel, AlphaPlusOne(pixel)), pixel);
     }
 };
 

@@ -199,6 +199,7 @@ inline Avx2 Reversed(Avx2 v) {
 inline Avx2::Weight AlphaWeight(Avx2 v) {
     return {ShufflePixels(v.pixels, _mm_setr_epi8(3, -1, 3, -1, 7, -1, 7, -1, 11, -1, 11, -1, 15, -1, 15, -1))};
 }
+inline Avx2::Weight AlphaPlusOne(Avx2 v) { return {_mm256_add_epi16(_mm256_set1_epi16(1), AlphaWeight(v).factors)}; }
 inline Avx2::Weight InverseAlpha(Avx2 v) { return {_mm256_sub_epi16(_mm256_set1_epi16(256), AlphaWeight(v).factors)}; }
 
 inline Avx2::Wide Widened(Avx2 v) {

@@ -193,6 +193,9 @@ inline Avx512 Reversed(Avx512 v) {
 inline Avx512::Weight AlphaWeight(Avx512 v) {
     return {ShufflePixels(v.pixels, _mm_setr_epi8(3, -1, 3, -1, 7, -1, 7, -1, 11, -1, 11, -1, 15, -1, 15, -1))};
 }
+inline Avx512::Weight AlphaPlusOne(Avx512 v) {
+    return {_mm512_add_epi16(_mm512_set1_epi16(1), AlphaWeight(v).factors)};
+}
 inline Avx512::Weight InverseAlpha(Avx512 v) {
     return {_mm512_sub_epi16(_mm512_set1_epi16(256), AlphaWeight(v).factors)};
 }

@@ -129,6 +129,7 @@ inline Baseline LargestColor(Baseline v) {
 inline Baseline Reversed(Baseline v) { return v; }
 
 inline Baseline::Weight AlphaWeight(Baseline v) { return v.pixel >> 24; }
+inline Baseline::Weight AlphaPlusOne(Baseline v) { return (v.pixel >> 24) + 1; }
 inline Baseline::Weight InverseAlpha(Baseline v) { return 256 - (v.pixel >> 24); }
 
 inline Baseline::Wide Widened(Baseline v) { return {v.pixel & evenBytes, v.pixel >> 8 & evenBytes}; }

@@ -47,6 +47,7 @@ concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std
 
     // Products. A weight is one factor for the four bytes of each pixel.
     { AlphaWeight(v) } -> std::same_as<typename V::Weight>;   // alpha of each pixel
+    { AlphaPlusOne(v) } -> std::same_as<typename V::Weight>;  // alpha + 1 of each pixel
     { InverseAlpha(v) } -> std::same_as<typename V::Weight>;  // 256 - alpha of each pixel
     { Scale(v, k) } -> std::same_as<V>;                       // every byte x k >> 8
     { ScaleRounded(v, k) } -> std::same_as<V>;                // every byte x k / 255 to nearest, k at most 255

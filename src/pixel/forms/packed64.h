@@ -156,6 +156,7 @@ struct Packed64 {
     }
 
     friend Weight AlphaWeight(Packed64 v) { return {Spread::Alpha(v.pixels)}; }
+    friend Weight AlphaPlusOne(Packed64 v) { return {_mm_add_pi16(_mm_set1_pi16(1), Spread::Alpha(v.pixels))}; }
     friend Weight InverseAlpha(Packed64 v) { return {_mm_sub_pi16(_mm_set1_pi16(256), Spread::Alpha(v.pixels))}; }
 
     friend Wide Widened(Packed64 v) { return {_mm_and_si64(v.pixels, LowBytes()), _mm_srli_pi16(v.pixels, 8)}; }

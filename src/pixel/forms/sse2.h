@@ -175,6 +175,7 @@ inline Sse2 LargestColor(Sse2 v) {
 inline Sse2 Reversed(Sse2 v) { return {_mm_shuffle_epi32(v.pixels, _MM_SHUFFLE(0, 1, 2, 3))}; }
 
 inline Sse2::Weight AlphaWeight(Sse2 v) { return {Sse2::Twice(_mm_srli_epi32(v.pixels, 24))}; }
+inline Sse2::Weight AlphaPlusOne(Sse2 v) { return {_mm_add_epi16(_mm_set1_epi16(1), AlphaWeight(v).factors)}; }
 inline Sse2::Weight InverseAlpha(Sse2 v) { return {_mm_sub_epi16(_mm_set1_epi16(256), AlphaWeight(v).factors)}; }
 
 inline Sse2::Wide Widened(Sse2 v) {
