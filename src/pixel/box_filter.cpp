@@ -1,43 +1,57 @@
-// Running sums: one for each column of channels, over the rows of the box, and from these one along the row.
+// Running sums: one for each channel of each column, over the rows of the box, and from these one along the row.
 #include "pixel/box_filter.h"
 
 #include <algorithm>
+#include <cstring>
+
+#include "pixel/box_rows.h"
+#include "pixel/primitive_set.h"
 
 namespace zorvic {
 
 namespace {
 
-// Up to here sums fit 32 bits: 255.5 x 4096^2 < 2^32.
-constexpr int largestSmallBox = 4096;
-// Up to here they fit 64. Larger boxes count as this one, beside which any image is a speck.
+// Up to here the form in use sums in 32 bits and divides by multiplication: 2896^2 < 2^23.
+constexpr int largestSmallBox = 2896;
+// Up to here sums fit 64 bits. Larger boxes count as this one, beside which any image is a speck.
 constexpr int largestBox = 1 << 28;
+
+constexpr std::int64_t slackColumns = 8;  // vectors read on behind the last box
+constexpr std::uintptr_t alignment = 64;  // bytes
 
 struct SmallBox {
     using Sum = std::uint32_t;
+    using Divider = SumDivider;
 
-    explicit SmallBox(int box)
-        : area(static_cast<Sum>(box) * static_cast<Sum>(box)), reciprocal((one + area - 1) / area) {}
-
-    // Exact: the reciprocal is too large by less than area / 2^56, which makes less than 2^32 x 2^24 / 2^56 = 1.
-    std::uint8_t Mean(Sum sum) const { return static_cast<std::uint8_t>((sum + area / 2) * reciprocal >> 56); }
-
-    static constexpr std::uint64_t one = std::uint64_t{1} << 56;
-    Sum area;
-    std::uint64_t reciprocal;
+    static void Slide(Sum* columns, const std::uint32_t* entering, const std::uint32_t* leaving, int n) {
+        Primitives().slideColumns(columns, entering, leaving, n);
+    }
+    static void Means(const Sum* columns, int box, const Sum* start, Divider area, std::uint32_t* out, int n) {
+        Primitives().boxMeans(columns, box, start, area, out, n);
+    }
 };
 
 struct LargeBox {
     using Sum = std::uint64_t;
+    using Divider = std::uint64_t;
 
-    explicit LargeBox(int box) : area(static_cast<Sum>(box) * static_cast<Sum>(box)) {}
-    std::uint8_t Mean(Sum sum) const { return static_cast<std::uint8_t>((sum + area / 2) / area); }
-
-    Sum area;
+    static void Slide(Sum* columns, const std::uint32_t* entering, const std::uint32_t* leaving, int n) {
+        SlideColumns<PlainSums<Sum, Divider>>(columns, entering, leaving, n);
+    }
+    static void Means(const Sum* columns, int box, const Sum* start, Divider area, std::uint32_t* out, int n) {
+        BoxMeans<PlainSums<Sum, Divider>>(columns, box, start, area, out, n);
+    }
 };
 
-// The pixels around a place in a row or column of n: before of them, the place itself and after.
+// The pixels around a place in a row or column of n: before of them, the place itself and after. Outside, the ends are
+// repeated; more than n repetitions on a side show nothing new.
 struct Window {
-    Window(int box, int extent) : before(box / 2), after(box - 1 - box / 2), n(extent) {}
+    Window(int box, int extent)
+        : before(box / 2),
+          after(box - 1 - box / 2),
+          n(extent),
+          repeatedBefore(std::min(before, n)),
+          repeatedAfter(std::min(after, n)) {}
 
     int Clamped(std::int64_t i) const { return static_cast<int>(std::clamp<std::int64_t>(i, 0, n - 1)); }
 
@@ -53,55 +67,71 @@ struct Window {
         if (after >= n) add(n - 1, after - n + 1);
     }
 
-    int before, after, n;
+    int before, after, n, repeatedBefore, repeatedAfter;
 };
 
-const std::uint8_t* RowOf(SourcePixels image, int y) {
-    return static_cast<const std::uint8_t*>(image.first) + y * image.step;
-}
-
-template <int channels, class Box>
-void FilterRow(const typename Box::Sum* columns, std::uint8_t* out, const Window& across, const Box& box) {
-    using Sum = typename Box::Sum;
-    Sum sums[std::size_t{channels}] = {};
-    const auto add = [&](int x, Sum times) {
-        for (int c = 0; c < channels; ++c) sums[c] += columns[std::ptrdiff_t{x} * channels + c] * times;
-    };
-    across.ForFirst([&](int x, int times) { add(x, static_cast<Sum>(times)); });
-    for (int x = 0; x < across.n; ++x) {
-        for (int c = 0; c < channels; ++c) out[std::ptrdiff_t{x} * channels + c] = box.Mean(sums[c]);
-        add(across.Entering(x), 1);
-        add(across.Leaving(x), ~Sum{0});  // modulo 2^n: minus one
+// Rows as 32-bit pixels: those of four bytes are there, others are widened and narrowed.
+struct Rows {
+    const std::uint32_t* Read(int y, std::uint32_t* scratch) const {
+        const std::byte* const row = static_cast<const std::byte*>(src.first) + y * src.step;
+        if (channels == 4) return reinterpret_cast<const std::uint32_t*>(row);
+        for (std::ptrdiff_t x = 0; x < width; ++x) std::memcpy(scratch + x, row + 3 * x, 3);
+        return scratch;
     }
-}
-
-template <int channels, class Box>
-void Filter(SourcePixels src, TargetPixels dst, SIZE size, int boxSize, void* buffer) {
-    using Sum = typename Box::Sum;
-    const Box box(boxSize);
-    const Window across(boxSize, size.cx), down(boxSize, size.cy);
-    auto* const columns = static_cast<Sum*>(buffer);
-    const std::ptrdiff_t length = static_cast<std::ptrdiff_t>(size.cx) * channels;
-
-    std::fill_n(columns, length, Sum{0});
-    down.ForFirst([&](int y, int times) {
-        const std::uint8_t* const row = RowOf(src, y);
-        for (std::ptrdiff_t i = 0; i < length; ++i) columns[i] += static_cast<Sum>(times) * row[i];
-    });
-    auto* out = static_cast<std::uint8_t*>(dst.first);
-    for (int y = 0; y < size.cy; ++y, out += dst.step) {
-        FilterRow<channels>(columns, out, across, box);
-        const std::uint8_t *const entering = RowOf(src, down.Entering(y)), *const leaving = RowOf(src, down.Leaving(y));
-        for (std::ptrdiff_t i = 0; i < length; ++i) columns[i] += Sum{entering[i]} - leaving[i];
+    std::uint32_t* Target(int y, std::uint32_t* scratch) const {
+        return channels == 4 ? reinterpret_cast<std::uint32_t*>(TargetRow(y)) : scratch;
     }
+    void Write(int y, const std::uint32_t* scratch) const {
+        if (channels == 4) return;
+        for (std::ptrdiff_t x = 0; x < width; ++x) std::memcpy(TargetRow(y) + 3 * x, scratch + x, 3);
+    }
+    std::byte* TargetRow(int y) const { return static_cast<std::byte*>(dst.first) + y * dst.step; }
+
+    SourcePixels src;
+    TargetPixels dst;
+    int width, channels;
+};
+
+// What the sums of a row need with their repetitions, four for each column.
+std::int64_t PaddedColumns(const Window& across) {
+    return across.repeatedBefore + std::int64_t{across.n} + across.repeatedAfter + slackColumns;
 }
 
 template <class Box>
-void FilterChannels(SourcePixels src, TargetPixels dst, SIZE size, int box, int channels, void* buffer) {
-    if (channels == 3) {
-        Filter<3, Box>(src, dst, size, box, buffer);
-    } else {
-        Filter<4, Box>(src, dst, size, box, buffer);
+void Filter(const Rows& rows, int height, int box, void* buffer) {
+    using Sum = typename Box::Sum;
+    const Window across(box, rows.width), down(box, height);
+    const int n = across.n;
+    const Sum area = static_cast<Sum>(box) * static_cast<Sum>(box);
+    const typename Box::Divider byArea(area);
+
+    const auto address = (reinterpret_cast<std::uintptr_t>(buffer) + alignment - 1) / alignment * alignment;
+    auto* const padded = reinterpret_cast<Sum*>(address);
+    const auto sums = static_cast<std::ptrdiff_t>(4 * PaddedColumns(across));
+    Sum* const columns = padded + std::ptrdiff_t{4} * across.repeatedBefore;
+    Sum* const lastColumn = columns + std::ptrdiff_t{4} * (n - 1);
+    auto* const zeros = reinterpret_cast<std::uint32_t*>(padded + sums);
+    std::uint32_t* const scratch[] = {zeros + n, zeros + std::ptrdiff_t{2} * n, zeros + std::ptrdiff_t{3} * n};
+    std::fill_n(padded, sums, Sum{0});
+    std::fill_n(zeros, std::ptrdiff_t{4} * n, 0U);
+
+    down.ForFirst([&](int y, int times) {
+        const std::uint32_t* const row = rows.Read(y, scratch[0]);
+        if (times == 1) return Box::Slide(columns, row, zeros, n);
+        const auto* const bytes = reinterpret_cast<const std::uint8_t*>(row);
+        for (std::ptrdiff_t i = 0; i < std::ptrdiff_t{4} * n; ++i) columns[i] += static_cast<Sum>(times) * bytes[i];
+    });
+    for (int y = 0; y < height; ++y) {
+        for (Sum* column = padded; column < columns; column += 4) std::copy_n(columns, 4, column);
+        for (int i = 1; i <= across.repeatedAfter; ++i) std::copy_n(lastColumn, 4, lastColumn + std::ptrdiff_t{4} * i);
+        Sum start[4];
+        for (int c = 0; c < 4; ++c)
+            start[c] = area / 2 + static_cast<Sum>(across.before - across.repeatedBefore) * columns[c] +
+                       static_cast<Sum>(across.after - across.repeatedAfter) * lastColumn[c];
+        std::uint32_t* const out = rows.Target(y, scratch[2]);
+        Box::Means(padded, across.repeatedBefore + 1 + across.repeatedAfter, start, byArea, out, n);
+        rows.Write(y, out);
+        Box::Slide(columns, rows.Read(down.Entering(y), scratch[0]), rows.Read(down.Leaving(y), scratch[1]), n);
     }
 }
 
@@ -110,8 +140,10 @@ void FilterChannels(SourcePixels src, TargetPixels dst, SIZE size, int box, int 
 Status BoxFilterBufferSize(SIZE size, int box, int channels, std::size_t* bytes) {
     if (bytes == nullptr) return Status::nullPointer;
     if (size.cx < 1 || size.cy < 1 || box < 1 || channels < 1) return Status::badSize;
-    const std::uint64_t sumBytes = box <= largestSmallBox ? sizeof(SmallBox::Sum) : sizeof(LargeBox::Sum);
-    const std::uint64_t wanted = static_cast<std::uint64_t>(size.cx) * static_cast<unsigned>(channels) * sumBytes;
+    const std::int64_t sumBytes = box <= largestSmallBox ? sizeof(SmallBox::Sum) : sizeof(LargeBox::Sum);
+    const std::int64_t rowBytes = std::int64_t{4} * size.cx;
+    const std::int64_t columns = PaddedColumns(Window(std::min(box, largestBox), size.cx));
+    const std::int64_t wanted = 4 * sumBytes * columns + 4 * rowBytes + static_cast<std::int64_t>(alignment);
     if (wanted > PTRDIFF_MAX) return Status::badSize;
     *bytes = static_cast<std::size_t>(wanted);
     return Status::success;
@@ -120,10 +152,12 @@ Status BoxFilterBufferSize(SIZE size, int box, int channels, std::size_t* bytes)
 Status BoxFilter(SourcePixels src, TargetPixels dst, SIZE size, int box, int channels, void* buffer) {
     if (src.first == nullptr || dst.first == nullptr || buffer == nullptr) return Status::nullPointer;
     if (size.cx < 1 || size.cy < 1 || box < 1 || channels < 3 || channels > 4) return Status::badSize;
+    if (box == 1) return CopyPixels(src, dst, size, channels);
+    const Rows rows{src, dst, size.cx, channels};
     if (box <= largestSmallBox) {
-        FilterChannels<SmallBox>(src, dst, size, box, channels, buffer);
+        Filter<SmallBox>(rows, size.cy, box, buffer);
     } else {
-        FilterChannels<LargeBox>(src, dst, size, std::min(box, largestBox), channels, buffer);
+        Filter<LargeBox>(rows, size.cy, std::min(box, largestBox), buffer);
     }
     return Status::success;
 }

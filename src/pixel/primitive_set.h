@@ -1,6 +1,7 @@
 // The primitives in one form, and the choice of the form that this process uses.
 #pragma once
 
+#include "pixel/forms/sums.h"
 #include "pixel/primitives.h"
 
 namespace zorvic {
@@ -18,10 +19,16 @@ struct PrimitiveSet {
     void (*copy)(const void* src, void* dst, std::size_t bytes);  // they may overlap
     // Columns of the source become rows of the target; size is the source's.
     void (*transpose)(SourcePixels src, TargetPixels dst, SIZE size);
+    // The box filter, row by row: see box_rows.h.
+    void (*slideColumns)(std::uint32_t* columns, const std::uint32_t* entering, const std::uint32_t* leaving, int n);
+    void (*boxMeans)(const std::uint32_t* columns, int box, const std::uint32_t* start, SumDivider divider,
+                     std::uint32_t* out, int n);
     void (*copyReversed)(const void* src, void* dst, int n);  // n pixels
     void (*exchange)(void* a, void* b, int n);
     void (*exchangeReversed)(void* a, void* b, int n);  // a[i] with b[n - 1 - i]
 };
+
+const PrimitiveSet& Primitives();  // of the level in use
 
 extern const PrimitiveSet genericPrimitives, sse2Primitives, avx2Primitives, avx512Primitives;
 

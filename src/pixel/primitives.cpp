@@ -13,10 +13,6 @@ namespace {
 
 constinit std::atomic<Level> levelInUse{Level::unresolved};
 
-const PrimitiveSet& Primitives() {
-    return AtCurrentLevel(genericPrimitives, sse2Primitives, avx2Primitives, avx512Primitives);
-}
-
 template <class... Pointer>
 Status CheckRegion(SIZE size, Pointer... pointers) {
     if (((pointers == nullptr) || ...)) return Status::nullPointer;
@@ -59,6 +55,10 @@ void MirrorInPlace(TargetPixels image, SIZE size, bool mirrorsRows, bool mirrors
 }
 
 }  // namespace
+
+const PrimitiveSet& Primitives() {
+    return AtCurrentLevel(genericPrimitives, sse2Primitives, avx2Primitives, avx512Primitives);
+}
 
 Level CurrentLevel() {
     Level level = levelInUse.load(std::memory_order_relaxed);

@@ -1,6 +1,7 @@
 // Every primitive once, for any form. Only the files that instantiate a form include this; see pixel/forms/form.h.
 #pragma once
 
+#include "pixel/box_rows.h"
 #include "pixel/forms/baseline.h"
 #include "pixel/ops/compose.h"
 #include "pixel/primitive_set.h"
@@ -166,6 +167,17 @@ consteval PrimitiveSet MakePrimitives() {
                 CopyBytes<V>(static_cast<const std::byte*>(src), static_cast<std::byte*>(dst), bytes);
             },
         .transpose = Transpose<V>,
+        .slideColumns =
+            [](std::uint32_t* columns, const std::uint32_t* entering, const std::uint32_t* leaving, int n) {
+                [[maybe_unused]] const typename V::Guard guard;
+                SlideColumns<typename V::Sums>(columns, entering, leaving, n);
+            },
+        .boxMeans =
+            [](const std::uint32_t* columns, int box, const std::uint32_t* start, SumDivider divider,
+               std::uint32_t* out, int n) {
+                [[maybe_unused]] const typename V::Guard guard;
+                BoxMeans<typename V::Sums>(columns, box, start, divider, out, n);
+            },
         .copyReversed = [](const void* src, void* dst, int n) { CopyReversed<V>(Words(src), Words(dst), n); },
         .exchange = [](void* a, void* b, int n) { Exchange<V>(Words(a), Words(b), n); },
         .exchangeReversed = [](void* a, void* b, int n) { ExchangeReversed<V>(Words(a), Words(b), n); },

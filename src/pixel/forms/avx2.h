@@ -8,6 +8,11 @@
 namespace zorvic {
 namespace {
 
+// One shuffle in both halves.
+inline __m256i ShufflePixels(__m256i pixels, __m128i places) {
+    return _mm256_shuffle_epi8(pixels, _mm256_broadcastsi128_si256(places));
+}
+
 struct Avx2 {
     using Narrower = Sse2;  // for spans shorter than a vector
 
@@ -38,6 +43,39 @@ struct Avx2 {
         }
         friend Wide operator*(Wide a, Weight k) {
             return {_mm256_mullo_epi16(a.even, k.factors), _mm256_mullo_epi16(a.odd, k.factors)};
+        }
+    };
+
+    // Two pixels.
+    struct Sums {
+        using Number = std::uint32_t;
+        using Divider = SumDivider;
+        using OnePixel = Sse2::Sums;
+        static constexpr int pixels = 2;
+
+        __m256i numbers;
+
+        static Sums FromPixels(const std::uint32_t* in) {
+            return {_mm256_cvtepu8_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(in)))};
+        }
+        static Sums Load(const std::uint32_t* in) { return {LoadAll(in)}; }
+        static Sums Repeat(const std::uint32_t* in) { return {_mm256_broadcastsi128_si256(LoadHalf(in))}; }
+        void Store(std::uint32_t* out) const { StoreAll(out, numbers); }
+        void StorePixels(std::uint32_t* out) const {
+            const __m256i bytes =
+                ShufflePixels(numbers, _mm_setr_epi8(0, 4, 8, 12, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1));
+            const __m256i both = _mm256_permutevar8x32_epi32(bytes, _mm256_setr_epi32(0, 4, 0, 0, 0, 0, 0, 0));
+            _mm_storel_epi64(reinterpret_cast<__m128i*>(out), _mm256_castsi256_si128(both));
+        }
+
+        friend Sums operator+(Sums a, Sums b) { return {_mm256_add_epi32(a.numbers, b.numbers)}; }
+        friend Sums operator-(Sums a, Sums b) { return {_mm256_sub_epi32(a.numbers, b.numbers)}; }
+        friend Sums Quotients(Sums s, SumDivider divider) {
+            const __m256i k = _mm256_set1_epi32(static_cast<int>(divider.multiplier));
+            const __m256i even = _mm256_mul_epu32(s.numbers, k);
+            const __m256i odd = _mm256_mul_epu32(_mm256_srli_epi64(s.numbers, 32), k);
+            const __m256i high = _mm256_blend_epi32(_mm256_srli_epi64(even, 32), odd, 0xAA);
+            return {_mm256_srl_epi32(high, _mm_cvtsi32_si128(divider.shift))};
         }
     };
 
@@ -176,10 +214,6 @@ inline Avx2 SelectEqual(Avx2 a, Avx2 b, Avx2 c, Avx2 d) {
     return {_mm256_blendv_epi8(d.pixels, c.pixels, _mm256_cmpeq_epi32(a.pixels, b.pixels))};
 }
 
-// One shuffle in both halves.
-inline __m256i ShufflePixels(__m256i pixels, __m128i places) {
-    return _mm256_shuffle_epi8(pixels, _mm256_broadcastsi128_si256(places));
-}
 inline Avx2 Luma(Avx2 v) {
     const __m256i pairs = _mm256_maddubs_epi16(v.pixels, _mm256_set1_epi32(0x00010201));
     const __m256i gray = _mm256_srli_epi32(_mm256_madd_epi16(pairs, _mm256_set1_epi16(1)), 2);

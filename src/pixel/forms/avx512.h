@@ -5,7 +5,7 @@
 
 #include <cstring>
 
-#include "pixel/forms/form.h"
+#include "pixel/forms/avx2.h"
 
 namespace zorvic {
 namespace {
@@ -40,6 +40,9 @@ struct Avx512 {
             return {_mm512_mullo_epi16(a.even, k.factors), _mm512_mullo_epi16(a.odd, k.factors)};
         }
     };
+
+    // Four pixels at a time would straddle cache lines.
+    using Sums = Avx2::Sums;
 
     // Code outside runs 128-bit instructions, which are slow while upper halves are in use.
     struct Guard {

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "pixel/forms/form.h"
+#include "pixel/forms/sums.h"
 
 namespace zorvic {
 namespace {
@@ -24,6 +25,8 @@ struct Baseline {
         friend Wide operator-(Wide a, Wide b) { return {a.even - b.even, a.odd - b.odd}; }
         friend Wide operator*(Wide a, Weight k) { return {a.even * k, a.odd * k}; }
     };
+
+    using Sums = PlainSums<std::uint32_t, SumDivider>;
 
     struct Guard {};
     static constexpr int lanes = 1;

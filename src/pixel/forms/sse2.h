@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "pixel/forms/form.h"
+#include "pixel/forms/sums.h"
 
 namespace zorvic {
 namespace {
@@ -34,6 +35,37 @@ struct Sse2 {
         friend Wide operator-(Wide a, Wide b) { return {_mm_sub_epi16(a.even, b.even), _mm_sub_epi16(a.odd, b.odd)}; }
         friend Wide operator*(Wide a, Weight k) {
             return {_mm_mullo_epi16(a.even, k.factors), _mm_mullo_epi16(a.odd, k.factors)};
+        }
+    };
+
+    // One pixel.
+    struct Sums {
+        using Number = std::uint32_t;
+        using Divider = SumDivider;
+        static constexpr int pixels = 1;
+
+        __m128i numbers;
+
+        static Sums FromPixels(const std::uint32_t* in) {
+            const __m128i zero = _mm_setzero_si128();
+            return {_mm_unpacklo_epi16(_mm_unpacklo_epi8(LoadOne(in), zero), zero)};
+        }
+        static Sums Load(const std::uint32_t* in) { return {LoadAll(in)}; }
+        static Sums Repeat(const std::uint32_t* in) { return Load(in); }
+        void Store(std::uint32_t* out) const { StoreAll(out, numbers); }
+        void StorePixels(std::uint32_t* out) const {
+            const __m128i words = _mm_packs_epi32(numbers, numbers);
+            StoreOne(out, _mm_packus_epi16(words, words));
+        }
+
+        friend Sums operator+(Sums a, Sums b) { return {_mm_add_epi32(a.numbers, b.numbers)}; }
+        friend Sums operator-(Sums a, Sums b) { return {_mm_sub_epi32(a.numbers, b.numbers)}; }
+        friend Sums Quotients(Sums s, SumDivider divider) {
+            const __m128i k = _mm_set1_epi32(static_cast<int>(divider.multiplier));
+            const __m128i even = _mm_mul_epu32(s.numbers, k), odd = _mm_mul_epu32(_mm_srli_epi64(s.numbers, 32), k);
+            const __m128i high =
+                _mm_or_si128(_mm_srli_epi64(even, 32), _mm_andnot_si128(_mm_set1_epi64x(0xFFFFFFFF), odd));
+            return {_mm_srl_epi32(high, _mm_cvtsi32_si128(divider.shift))};
         }
     };
 
