@@ -14,6 +14,7 @@
 #include "raster/ops/compose.h"
 #include "raster/ops/mix.h"
 #include "raster/rows/area.h"
+#include "raster/rows/area_long.h"
 #include "raster/rows/bicubic.h"
 #include "raster/rows/bicubic_plain.h"
 #include "raster/rows/bilinear.h"
@@ -92,8 +93,8 @@ int RunRows(const BitmapLockInfo& dst, const Placement& placement, const BitmapL
         if (src.bmWidth < placement.width || src.bmHeight < placement.height)
             return RunRows<V, weights, Rows::bicubic, depth>(dst, placement, src, op);
         if (src.bmWidth <= 16 * placement.width && src.bmHeight <= 16 * placement.height)
-            return RunKernel<V>(dst, AreaRows<ShortSpan, depth>(src, placement), op);
-        return RunKernel<V>(dst, AreaRows<LongSpan, depth>(src, placement), op);
+            return RunKernel<V>(dst, AreaRows<typename V::Boxes, depth>(src, placement), op);
+        return RunKernel<V>(dst, LongAreaRows<depth>(src, placement), op);
     }
 }
 

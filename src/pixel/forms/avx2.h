@@ -3,6 +3,7 @@
 
 #include <immintrin.h>
 
+#include "pixel/forms/boxes_avx2.h"
 #include "pixel/forms/sse2.h"
 
 namespace zorvic {
@@ -14,6 +15,7 @@ inline __m256i ShufflePixels(__m256i pixels, __m128i places) {
 }
 
 struct Avx2 {
+    using Boxes = Avx2Boxes;
     using Narrower = Sse2;  // for spans shorter than a vector
 
     // The factor of a pixel twice in 16 bits.

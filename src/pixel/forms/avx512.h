@@ -11,6 +11,8 @@ namespace zorvic {
 namespace {
 
 struct Avx512 {
+    using Boxes = Avx2Boxes;
+
     // The factor of a pixel twice in 16 bits.
     struct Weight {
         __m512i factors;

@@ -3,6 +3,7 @@
 
 #include <cstring>
 
+#include "pixel/forms/boxes_baseline.h"
 #include "pixel/forms/form.h"
 #include "pixel/forms/sums.h"
 
@@ -14,6 +15,7 @@ constexpr std::uint32_t evenBytes = 0x00FF00FF;
 constexpr std::uint32_t oddBytes = 0xFF00FF00;
 
 struct Baseline {
+    using Boxes = BaselineBoxes;
     using Weight = std::uint32_t;
 
     // Two 16-bit numbers in each word. Borrows and carries between them cancel: what the sums come to at the end lies

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "pixel/forms/boxes.h"
 #include "pixel/forms/taps.h"
 
 namespace zorvic {
@@ -77,6 +78,9 @@ concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std
     // Four-tap filters; see taps.h.
     V::SumTaps(in, taps, sums);
     { V::MixSums(rows, number, RowWeights{}) } -> std::same_as<V>;
+
+    // Means of boxes; see boxes.h.
+    requires Boxes<typename V::Boxes>;
 };
 
 // Whether all pixels of a vector are of one kind; for forms that gain by looking.

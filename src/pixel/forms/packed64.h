@@ -6,6 +6,7 @@
 
 #include <cstring>
 
+#include "pixel/forms/boxes_baseline.h"
 #include "pixel/forms/form.h"
 
 namespace zorvic {
@@ -14,6 +15,8 @@ namespace {
 // Spread::Alpha: the alpha of each pixel twice in 16 bits.
 template <class Spread>
 struct Packed64 {
+    using Boxes = BaselineBoxes;  // means take floating point, which these registers rule out
+
     // The factor of a pixel twice in 16 bits.
     struct Weight {
         __m64 factors;

@@ -5,6 +5,7 @@
 
 #include <cstring>
 
+#include "pixel/forms/boxes_sse2.h"
 #include "pixel/forms/form.h"
 #include "pixel/forms/sums.h"
 
@@ -12,6 +13,8 @@ namespace zorvic {
 namespace {
 
 struct Sse2 {
+    using Boxes = Sse2Boxes;
+
     // The factor of a pixel twice in 16 bits.
     struct Weight {
         __m128i factors;

@@ -1,174 +1,110 @@
-// Area reduction: a destination pixel is the mean of the source box that it covers in 16.16 coordinates, by coverage
-// and per channel, truncated. For sources at least as large as the draw in both directions.
+// Area reduction by at most 16 times: a destination pixel is the mean of the source box that it covers in 16.16
+// coordinates, by coverage and per channel, truncated. For sources at least as large as the draw in both directions.
+// The rows of a box are summed for every column first; see pixel/forms/boxes.h for the arithmetic.
 #pragma once
 
+#include "pixel/forms/boxes.h"
+#include "raster/rows/coverage.h"
 #include "raster/rows/pixel.h"
-#include "raster/rows/row_ring.h"
 
 namespace zorvic {
 namespace {
 
-// The source pixels that one destination column or row covers, and how much of the outer ones, in 1/65536.
-struct Coverage {
-    int first, last;
-    std::uint32_t firstWeight, lastWeight;
-
-    std::uint32_t WeightOf(int pixel) const {
-        if (pixel == first) return firstWeight;
-        return pixel == last ? lastWeight : 65536;
-    }
-};
-
-inline Coverage CoverageAt(std::int64_t index, std::int64_t step) {
-    const std::int64_t start = index * step, end = start + step;
-    const auto first = static_cast<int>(start >> 16), last = static_cast<int>((end - 1) >> 16);
-    if (first == last) return {first, last, static_cast<std::uint32_t>(step), 0};
-    return {first, last, static_cast<std::uint32_t>(65536 - (start & 0xFFFF)),
-            static_cast<std::uint32_t>(end - (static_cast<std::int64_t>(last) << 16))};
-}
-
-// Reductions of at most 16 times: a row's sum has 28 bits, a box's 48.
-struct ShortSpan {
-    using RowSum = std::uint32_t;
-
-    class Mean {
-    public:
-        explicit Mean(std::uint64_t boxArea) : area(boxArea), reciprocal(1.0 / static_cast<double>(boxArea)) {}
-
-        // The estimate is right but for the last step, which integers decide.
-        std::uint32_t Of(std::uint64_t total) const {
-            auto mean = static_cast<std::uint32_t>(static_cast<double>(total) * reciprocal);
-            if (mean * area > total) --mean;
-            if ((mean + 1) * area <= total) ++mean;
-            return mean;
-        }
-
-    private:
-        std::uint64_t area;
-        double reciprocal;
-    };
-
-    struct Total {
-        std::uint64_t sum;
-        void Add(RowSum row, std::uint32_t weight) { sum += static_cast<std::uint64_t>(row) * weight; }
-        std::uint32_t Over(const Mean& mean) const { return mean.Of(sum); }
-    };
-};
-
-// Any reduction of 32767 pixels: a row's sum has 39 bits, a box's 70, kept in two limbs of 20 and 64 bits.
-struct LongSpan {
-    using RowSum = std::uint64_t;
-
-    static constexpr int lowBits = 20;
-    static constexpr std::uint64_t lowMask = (1U << lowBits) - 1;
-
-    class Mean {
-    public:
-        explicit Mean(std::uint64_t boxArea) : area(boxArea), reciprocal(1.0 / static_cast<double>(boxArea)) {}
-
-        std::uint32_t Of(std::uint64_t high, std::uint64_t low) const {
-            const double total = static_cast<double>(high) * (lowMask + 1) + static_cast<double>(low);
-            auto mean = static_cast<std::uint32_t>(total * reciprocal);
-            if (!Fits(mean, high, low)) --mean;
-            if (Fits(mean + 1, high, low)) ++mean;
-            return mean;
-        }
-
-    private:
-        // mean x area <= total
-        bool Fits(std::uint32_t mean, std::uint64_t high, std::uint64_t low) const {
-            const std::uint64_t lowProduct = mean * (area & lowMask);
-            const std::uint64_t highProduct = mean * (area >> lowBits) + (lowProduct >> lowBits);
-            return highProduct < high || (highProduct == high && (lowProduct & lowMask) <= low);
-        }
-
-        std::uint64_t area;
-        double reciprocal;
-    };
-
-    struct Total {
-        std::uint64_t high, low;
-        void Add(RowSum row, std::uint32_t weight) {
-            high += (row >> lowBits) * weight;
-            low += (row & lowMask) * weight;
-        }
-        std::uint32_t Over(const Mean& mean) const { return mean.Of(high + (low >> lowBits), low & lowMask); }
-    };
-};
-
-template <class Span, SourceDepth depth>
+template <Boxes B, SourceDepth depth>
 class AreaRows {
 public:
-    static constexpr int blockWidth = chunk;
+    static constexpr int blockWidth = 512;
     static constexpr bool preparesColumns = true, needsScratch = true;
 
     AreaRows(const BitmapLockInfo& source, const Placement& placement)
         : src(source),
-          stepX(Step(source.bmWidth, placement.width)),
-          stepY(Step(source.bmHeight, placement.height)),
+          stepX(CoverageStep(source.bmWidth, placement.width)),
+          stepY(CoverageStep(source.bmHeight, placement.height)),
+          narrowest(static_cast<int>(stepX >> 16)),
           left(placement.left),
           top(placement.top),
-          mean(static_cast<std::uint64_t>(stepX * stepY)) {}
+          boxesAtOnce(static_cast<int>((std::int64_t{longestSpan} << 16) / stepX)) {
+        // An exact total times this is never too small and at most 2^-42 too large. So it reaches a whole number only
+        // where the quotient does: others lie at least 1 / area >= 2^-40 below the next.
+        constexpr double upwards = 1 + 1 / 4503599627370496.0;  // a unit in the last place
+        reciprocal = 1 / (static_cast<double>(stepX) * static_cast<double>(stepY)) * upwards;
+        PrepareWholeMean();
+    }
 
     void PrepareColumns(int x, int n) {
-        columnCount = n;
-        sums.Clear();
-        for (int i = 0; i < n; ++i) columns[i] = CoverageAt(left + x + i, stepX);
+        for (int i = 0; i <= n; ++i) {
+            const std::int64_t at = (left + x + i) * stepX;
+            edges[i] = {static_cast<int>(at >> 16), 0, static_cast<std::uint32_t>(at & 0xFFFF)};
+        }
+        for (int i = 0; i < n; ++i)
+            edges[i].extraColumn = edges[i + 1].column - edges[i].column > narrowest ? 0xFFFFFFFF : 0;
     }
 
     const std::uint32_t* Fetch(int y, int, int n, std::uint32_t* out) {
         const Coverage lines = CoverageAt(top + y, stepY);
-        for (int i = 0; i < n; ++i)
-            for (auto& total : totals[i]) total = {};
-        for (int sourceRow = lines.first; sourceRow <= lines.last; ++sourceRow) {
-            const RowSums& row = SumsOfRow(sourceRow);
-            const std::uint32_t weight = lines.WeightOf(sourceRow);
-            for (int i = 0; i < n; ++i)
-                for (int channel = 0; channel < 4; ++channel) totals[i][channel].Add(row.channels[i][channel], weight);
-        }
-        for (int i = 0; i < n; ++i) {
-            std::uint32_t pixel = 0;
-            for (int channel = 0; channel < 4; ++channel) pixel |= totals[i][channel].Over(mean) << (8 * channel);
-            StorePixel(out + i, pixel);
+        for (int i = 0; i < n; i += boxesAtOnce) {
+            const int count = n - i < boxesAtOnce ? n - i : boxesAtOnce;
+            FetchBoxes(lines, edges + i, count, out + i);
         }
         return out;
     }
 
 private:
-    struct RowSums {
-        typename Span::RowSum channels[chunk][4];
-    };
+    // Columns that are summed at once, and room for those that boxes share and the rest of a vector. Rows that are copied
+    // have fewer, since a box has up to 17 of them.
+    static constexpr int longestSpan = depth == SourceDepth::argb32 ? 2048 : 256;
+    static constexpr int room = 2 + B::lanes;
+    static constexpr std::size_t sumCount = 4 * (longestSpan + room);
 
-    static std::int64_t Step(int sourceExtent, std::int64_t drawExtent) {
-        return (static_cast<std::int64_t>(sourceExtent) << 16) / drawExtent;
+    // Exact while the excess of the factor comes to less than 1 / n for the largest sum.
+    void PrepareWholeMean() {
+        if (((stepX | stepY) & 0xFFFF) != 0) return;
+        const int n = narrowest * static_cast<int>(stepY >> 16);
+        int shift = 0;
+        while (2 << shift < n) ++shift;
+        const int power = 65536 << shift, factor = (power + n - 1) / n, excess = factor * n - power;
+        isWhole = n > 1 && n <= 257 && 255LL * n * excess < power;
+        wholeMean = {narrowest, factor, shift};
     }
 
-    // A row that two destination rows share is summed once.
-    const RowSums& SumsOfRow(int sourceRow) {
-        return sums.Get(sourceRow, [&](RowSums& row) {
-            const std::byte* pixels = SourceRow(src, sourceRow);
-            for (int i = 0; i < columnCount; ++i) {
-                const Coverage& column = columns[i];
-                typename Span::RowSum sum[4] = {};
-                for (int x = column.first; x <= column.last; ++x) {
-                    const std::uint32_t pixel = ReadPixel<depth>(src, pixels, x);
-                    const typename Span::RowSum weight = column.WeightOf(x);
-                    for (int channel = 0; channel < 4; ++channel)
-                        sum[channel] += (pixel >> (8 * channel) & 0xFF) * weight;
-                }
-                for (int channel = 0; channel < 4; ++channel) row.channels[i][channel] = sum[channel];
-            }
-        });
+    void FetchBoxes(const Coverage& lines, const BoxEdge* boxes, int n, std::uint32_t* out) {
+        const BoxEdge& end = boxes[n];
+        const int first = boxes[0].column, behind = end.column + (end.fraction > 0 ? 1 : 0);
+        ColumnSpan span{behind - first, src.bmWidth - B::lanes - first};
+        BoxRows rows{SourceRow(src, lines.first) + std::ptrdiff_t{4} * first, src.bmWidthBytes,
+                     lines.last - lines.first + 1, lines.firstWeight, lines.lastWeight};
+        if (depth != SourceDepth::argb32 || span.lastVector < 0) {
+            for (int i = 0; i < rows.count; ++i)
+                for (int x = 0; x < span.count; ++x)
+                    copies[i][x] = ReadPixel<depth>(src, SourceRow(src, lines.first + i), first + x);
+            rows.first = reinterpret_cast<const std::byte*>(copies);
+            rows.stride = sizeof copies[0];
+            span.lastVector = span.count;
+        }
+        if (isWhole) {
+            B::SumWholeRows(rows, span, wholeMean, wholeSums);
+            B::WholeMeans(wholeSums, wholeMean, n, out);
+        } else {
+            B::SumRows(rows, span, sums);
+            // A box that ends with the source asks for nothing of the column behind it.
+            for (int i = 0; i < 4; ++i) sums[4 * span.count + i] = 0;
+            B::Means(sums, {boxes, narrowest, reciprocal}, n, out);
+        }
     }
 
     const BitmapLockInfo& src;
     std::int64_t stepX, stepY;
+    int narrowest;  // columns that start in every box
     std::int64_t left, top;
-    typename Span::Mean mean;
-    int columnCount = 0;
-    Coverage columns[chunk];
-    RowRing<RowSums, 1> sums;
-    typename Span::Total totals[chunk][4];
+    int boxesAtOnce;
+    double reciprocal;
+    bool isWhole = false;  // no box has a part of a pixel, and there is a mean by a factor
+    WholeMean wholeMean{};
+    BoxEdge edges[blockWidth + 1];
+    alignas(64) std::uint32_t sums[sumCount];
+    alignas(64) std::uint16_t wholeSums[sumCount];
+    // Pixels of other depths, and of the end of a row that is shorter than a vector.
+    alignas(64) std::uint32_t copies[17][depth == SourceDepth::argb32 ? 2 * B::lanes : longestSpan + room];
 };
 
 }  // namespace
