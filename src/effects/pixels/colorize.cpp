@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "effects/pixels/color_model.h"
+#include "effects/pixels/effect_set.h"
 #include "effects/pixels/map_colors.h"
 
 namespace zorvic {
@@ -37,20 +38,24 @@ std::uint32_t Adjust(std::uint32_t ahsl, const HslAmounts& amounts) {
            ScaleSaturation(ahsl >> 8 & 0xFF, amounts.saturation) << 8 | ScaleLightness(ahsl & 0xFF, amounts.lightness);
 }
 
-// Adjust for many colours: what each byte becomes as a hue, a saturation and a lightness.
-class AdjustTable {
-public:
-    explicit AdjustTable(const HslAmounts& amounts) {
-        for (std::uint32_t byte = 0; byte < 256; ++byte) table[byte] = Adjust(byte * 0x010101, amounts);
+ColorizeTables MakeTables(const HslAmounts& amounts) {
+    ColorizeTables tables;
+    std::array<std::uint32_t, 256> adjusted;
+    for (std::uint32_t byte = 0; byte < 256; ++byte) {
+        adjusted[byte] = Adjust(byte * 0x010101, amounts);
+        tables.saturation[byte] = UnitFractions[adjusted[byte] >> 8 & 0xFF];
+        tables.lightness[byte] = UnitFractions[adjusted[byte] & 0xFF];
     }
-    std::uint32_t operator()(std::uint32_t ahsl) const {
-        return (ahsl & 0xFF000000) | (table[ahsl >> 16 & 0xFF] & 0xFF0000) | (table[ahsl >> 8 & 0xFF] & 0xFF00) |
-               (table[ahsl & 0xFF] & 0xFF);
+    const auto place = [](int shift) { return static_cast<float>(1 << shift); };
+    for (int i = 0; i < ColorizeTables::hues; ++i) {
+        const auto hue = static_cast<std::size_t>(i - ColorizeTables::hueOffset) & 0xFF;
+        const HueSector& sector = HueSectors[adjusted[hue] >> 16 & 0xFF];
+        tables.rise[i] = sector.rise;
+        tables.highPlace[i] = place(sector.highShift);
+        tables.rampPlace[i] = place(sector.rampShift);
     }
-
-private:
-    std::array<std::uint32_t, 256> table;
-};
+    return tables;
+}
 
 constexpr bool IsNearZero(double amount) { return amount > -0.000001 && amount < 0.000001; }
 
@@ -67,10 +72,9 @@ std::uint32_t ColorizeArgb(std::uint32_t argb, const HslAmounts& amounts) {
 }
 
 void ColorizeImage(const BitmapLockInfo& image, const HslAmounts& amounts) {
-    const AdjustTable adjusted(amounts);
-    MapColors<Depths::all>(image, [&](std::uint32_t* pixels, int n) {
-        for (int i = 0; i < n; ++i) StorePixel(pixels + i, ToArgb(adjusted(ToAhsl(pixels[i]))));
-    });
+    const ColorizeTables tables = MakeTables(amounts);
+    const auto colorize = Effects().colorize;
+    MapColors<Depths::all>(image, [&](std::uint32_t* pixels, int n) { colorize(pixels, n, tables); });
 }
 
 }  // namespace zorvic

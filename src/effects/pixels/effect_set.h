@@ -8,9 +8,19 @@ namespace zorvic {
 // What is done to a run of 32-bit pixels, in place.
 using PixelEffect = void (*)(std::uint32_t* pixels, int n);
 
+// What colorize makes of the hue, saturation and lightness of a pixel.
+struct ColorizeTables {
+    static constexpr int hueOffset = 64, hues = 288;  // entry i is of the hue i - 64: left of red it is negative
+
+    float saturation[256], lightness[256];   // 0 to 1, of the adjusted bytes
+    float rise[hues];                        // along the ramp, 0 to 60 degrees
+    float highPlace[hues], rampPlace[hues];  // what multiplies the byte of the channel: 1, 256 or 65536
+};
+
 struct EffectSet {
     PixelEffect gray, invert, premultiply, alphaToGray, colorToAlpha, whiten;
     void (*replaceColor)(std::uint32_t* pixels, int n, std::uint32_t from, std::uint32_t to);
+    void (*colorize)(std::uint32_t* pixels, int n, const ColorizeTables& tables);
 
     // The 3 x 3 box. Sums of three neighbours in a row of n pixels, whose ends repeat outside: words with those of blue
     // and red, and `plane` words further those of green and alpha. And a ninth of the sums of three rows.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "effects/pixels/box_rows.h"
+#include "effects/pixels/colorize_op.h"
 #include "effects/pixels/effect_set.h"
 #include "effects/pixels/tone_ops.h"
 #include "pixel/spans_inl.h"
@@ -33,6 +34,10 @@ consteval EffectSet MakeEffects() {
         .replaceColor =
             [](std::uint32_t* pixels, int n, std::uint32_t from, std::uint32_t to) {
                 RunInPlace<V>(Replace{from, to}, pixels, n);
+            },
+        .colorize =
+            [](std::uint32_t* pixels, int n, const ColorizeTables& tables) {
+                RunInPlace<typename V::Reals::Pixels>(Colorize{tables}, pixels, n);
             },
         .sumNeighbors = SumNeighbors<V>,
         .meanOfNine = MeanOfNine<V>,

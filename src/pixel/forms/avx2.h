@@ -48,6 +48,36 @@ struct Avx2 {
         }
     };
 
+    // A number in single precision for each pixel; see reals.h.
+    struct Reals {
+        using Pixels = Avx2;
+
+        __m256 values;
+
+        static Reals Byte(Avx2 v, int shift) {
+            return {_mm256_cvtepi32_ps(_mm256_and_si256(_mm256_srli_epi32(v.pixels, shift), _mm256_set1_epi32(0xFF)))};
+        }
+        static Reals Repeat(float number) { return {_mm256_set1_ps(number)}; }
+        static Reals Lookup(const float* table, Reals index) {
+            return {_mm256_i32gather_ps(table, _mm256_cvttps_epi32(index.values), 4)};
+        }
+        Avx2 Words() const { return {_mm256_cvttps_epi32(values)}; }
+
+        friend Reals operator+(Reals a, Reals b) { return {_mm256_add_ps(a.values, b.values)}; }
+        friend Reals operator-(Reals a, Reals b) { return {_mm256_sub_ps(a.values, b.values)}; }
+        friend Reals operator*(Reals a, Reals b) { return {_mm256_mul_ps(a.values, b.values)}; }
+        friend Reals operator/(Reals a, Reals b) { return {_mm256_div_ps(a.values, b.values)}; }
+        friend Reals Larger(Reals a, Reals b) { return {_mm256_max_ps(a.values, b.values)}; }
+        friend Reals Smaller(Reals a, Reals b) { return {_mm256_min_ps(a.values, b.values)}; }
+        friend Reals Whole(Reals a) { return {_mm256_cvtepi32_ps(_mm256_cvttps_epi32(a.values))}; }
+        friend Reals SelectEqual(Reals a, Reals b, Reals c, Reals d) {
+            return {_mm256_blendv_ps(d.values, c.values, _mm256_cmp_ps(a.values, b.values, _CMP_EQ_OQ))};
+        }
+        friend Reals SelectAtMost(Reals a, Reals b, Reals c, Reals d) {
+            return {_mm256_blendv_ps(d.values, c.values, _mm256_cmp_ps(a.values, b.values, _CMP_LE_OQ))};
+        }
+    };
+
     // Two pixels.
     struct Sums {
         using Number = std::uint32_t;

@@ -43,6 +43,7 @@ struct Avx512 {
         }
     };
 
+    using Reals = Avx2::Reals;
     // Four pixels at a time would straddle cache lines.
     using Sums = Avx2::Sums;
 

@@ -28,6 +28,28 @@ struct Baseline {
         friend Wide operator*(Wide a, Weight k) { return {a.even * k, a.odd * k}; }
     };
 
+    // A number in single precision for each pixel; see reals.h.
+    struct Reals {
+        using Pixels = Baseline;
+
+        float value;
+
+        static Reals Byte(Baseline v, int shift) { return {static_cast<float>(v.pixel >> shift & 0xFF)}; }
+        static Reals Repeat(float number) { return {number}; }
+        static Reals Lookup(const float* table, Reals index) { return {table[static_cast<int>(index.value)]}; }
+        Baseline Words() const { return {static_cast<std::uint32_t>(static_cast<int>(value))}; }
+
+        friend Reals operator+(Reals a, Reals b) { return {a.value + b.value}; }
+        friend Reals operator-(Reals a, Reals b) { return {a.value - b.value}; }
+        friend Reals operator*(Reals a, Reals b) { return {a.value * b.value}; }
+        friend Reals operator/(Reals a, Reals b) { return {a.value / b.value}; }
+        friend Reals Larger(Reals a, Reals b) { return a.value > b.value ? a : b; }
+        friend Reals Smaller(Reals a, Reals b) { return a.value < b.value ? a : b; }
+        friend Reals Whole(Reals a) { return {static_cast<float>(static_cast<int>(a.value))}; }
+        friend Reals SelectEqual(Reals a, Reals b, Reals c, Reals d) { return a.value == b.value ? c : d; }
+        friend Reals SelectAtMost(Reals a, Reals b, Reals c, Reals d) { return a.value <= b.value ? c : d; }
+    };
+
     using Sums = PlainSums<std::uint32_t, SumDivider>;
 
     struct Guard {};

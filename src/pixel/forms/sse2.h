@@ -41,6 +41,43 @@ struct Sse2 {
         }
     };
 
+    // A number in single precision for each pixel; see reals.h.
+    struct Reals {
+        using Pixels = Sse2;
+
+        __m128 values;
+
+        static Reals Byte(Sse2 v, int shift) {
+            return {_mm_cvtepi32_ps(_mm_and_si128(_mm_srli_epi32(v.pixels, shift), _mm_set1_epi32(0xFF)))};
+        }
+        static Reals Repeat(float number) { return {_mm_set1_ps(number)}; }
+        static Reals Lookup(const float* table, Reals index) {
+            alignas(16) int i[4];
+            StoreAll(i, _mm_cvttps_epi32(index.values));
+            return {_mm_setr_ps(table[i[0]], table[i[1]], table[i[2]], table[i[3]])};
+        }
+        Sse2 Words() const { return {_mm_cvttps_epi32(values)}; }
+
+        friend Reals operator+(Reals a, Reals b) { return {_mm_add_ps(a.values, b.values)}; }
+        friend Reals operator-(Reals a, Reals b) { return {_mm_sub_ps(a.values, b.values)}; }
+        friend Reals operator*(Reals a, Reals b) { return {_mm_mul_ps(a.values, b.values)}; }
+        friend Reals operator/(Reals a, Reals b) { return {_mm_div_ps(a.values, b.values)}; }
+        friend Reals Larger(Reals a, Reals b) { return {_mm_max_ps(a.values, b.values)}; }
+        friend Reals Smaller(Reals a, Reals b) { return {_mm_min_ps(a.values, b.values)}; }
+        friend Reals Whole(Reals a) { return {_mm_cvtepi32_ps(_mm_cvttps_epi32(a.values))}; }
+        friend Reals SelectEqual(Reals a, Reals b, Reals c, Reals d) {
+            return Chosen(_mm_cmpeq_ps(a.values, b.values), c, d);
+        }
+        friend Reals SelectAtMost(Reals a, Reals b, Reals c, Reals d) {
+            return Chosen(_mm_cmple_ps(a.values, b.values), c, d);
+        }
+
+    private:
+        static Reals Chosen(__m128 mask, Reals c, Reals d) {
+            return {_mm_or_ps(_mm_and_ps(mask, c.values), _mm_andnot_ps(mask, d.values))};
+        }
+    };
+
     // One pixel.
     struct Sums {
         using Number = std::uint32_t;

@@ -87,6 +87,19 @@ TEST_P(ImageEffects, ChangeEveryPixelOrPaletteEntryAndNothingElse) {
     }
 }
 
+// A sample: every color was compared once.
+TEST_P(ImageEffects, ColorizeAsOneColorIs) {
+    for (const HslAmounts& by :
+         {HslAmounts{0, 0, 0.01F}, {1, 1, 1}, {-1, -1, -1}, {0.33F, -0.5F, 0.9F}, {0.5F, 2, -2}}) {
+        Image image(256, 256);
+        image.Fill([](int x, int y) { return static_cast<std::uint32_t>(y * 256 + x) * 0x9E3779B1U; });
+        Image wanted = image;
+        wanted.Fill([&](int x, int y) { return ColorizeArgb(image.At(x, y), by); });
+        ColorizeImage(image.Info(), by);
+        ASSERT_TRUE(SameBytes(image, wanted)) << by.hue << ", " << by.saturation << ", " << by.lightness;
+    }
+}
+
 TEST(Effects, LeaveTheGrayRampAndDescriptionsWithoutPixelsAlone) {
     for (const EffectCase& effect : effects) {
         const Image indices(4, 4, 8);
