@@ -1,7 +1,10 @@
 // An operation on a span of pixels, in vectors of any form. Only files that instantiate forms include this.
 #pragma once
 
+#include <intrin.h>
+
 #include "pixel/forms/form.h"
+#include "pixel/ops/compose.h"
 
 namespace zorvic {
 namespace {
@@ -55,9 +58,22 @@ void ApplyVectors(Op op, std::uint32_t* dst, SolidColor solid, int n) {
     for (int i = 0; i < n; i += V::lanes) op(V::Load(dst + i), samples).Store(dst + i);
 }
 
+// Runs that leave the first cache are moved by the processor's own loop, which keeps up with the widest vectors there.
+constexpr int longRun = 8192;
+
+inline void ApplyLongRun(Copy, std::uint32_t* dst, const std::uint32_t* samples, int n) {
+    __movsb(reinterpret_cast<unsigned char*>(dst), reinterpret_cast<const unsigned char*>(samples),
+            sizeof *dst * static_cast<std::size_t>(n));
+}
+inline void ApplyLongRun(Copy, std::uint32_t* dst, SolidColor solid, int n) {
+    __stosd(reinterpret_cast<unsigned long*>(dst), solid.color, static_cast<std::size_t>(n));
+}
+
 // Applies the operation to n pixels. It is passed by value: pixels cannot be part of it, as far as a compiler knows.
 template <Form V, class Op, class Source>
 void ApplySpan(Op op, std::uint32_t* dst, Source src, int n) {
+    if constexpr (std::same_as<Op, Copy>)
+        if (n >= longRun) return ApplyLongRun(op, dst, src, n);
     if constexpr (V::lanes == 1) {
         ApplyVectors<V>(op, dst, src, n);
     } else if (n >= V::lanes) {

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <initializer_list>
+#include <tuple>
 
 #include "pixel/primitives.h"
 #include "raster/kernels.h"
@@ -41,18 +42,40 @@ constexpr Overlay overlays[] = {
     {Stage::routed, Only({52, 59, 91, 98})},
 };
 
-const KernelSet& WidestKernels(Level level) {
-    switch (level) {
-        case Level::avx512:
-            return avx512Kernels;
-        case Level::avx2:
-            return avx2Kernels;
+// Whether 512 bits were measured to be faster than 256 (see docs/performance.md).
+constexpr bool GainsFromAvx512(Rows rows, Op op) {
+    switch (rows) {
+        case Rows::solid:
+            return op != Op::copy;
+        case Rows::unscaled:
+            return op == Op::constantAlpha || op == Op::opaqueAlpha || op == Op::crossFade;
+        case Rows::nearest:
+            return true;
         default:
-            return sse2Kernels;
+            return false;
     }
 }
 
-const KernelSet& KernelsOf(Stage stage, const CpuFeatures& features, std::optional<Level> primitives) {
+consteval SlotMask Avx512Slots() {
+    SlotMask mask{};
+    std::apply(
+        [&](const auto&... entry) {
+            const auto mark = [&](int first, int count, bool gains) {
+                for (int slot = first; slot < first + count; ++slot) mask[static_cast<std::size_t>(slot)] = gains;
+            };
+            (mark(FirstIndex(entry), entry.count, GainsFromAvx512(entry.rows, entry.op)), ...);
+        },
+        slots::all);
+    return mask;
+}
+
+const KernelSet& WidestKernels(int slot, Level level) {
+    static constexpr SlotMask avx512Slots = Avx512Slots();
+    if (level == Level::avx512 && avx512Slots[static_cast<std::size_t>(slot)]) return avx512Kernels;
+    return level >= Level::avx2 ? avx2Kernels : sse2Kernels;
+}
+
+const KernelSet& KernelsOf(int slot, Stage stage, const CpuFeatures& features, std::optional<Level> primitives) {
     switch (stage) {
         case Stage::mmx:
             return mmxKernels;
@@ -61,7 +84,7 @@ const KernelSet& KernelsOf(Stage stage, const CpuFeatures& features, std::option
         case Stage::sse2:
             return sse2Kernels;
         case Stage::wide:
-            return WidestKernels(*primitives);
+            return WidestKernels(slot, *primitives);
         case Stage::routed:
             return routedKernels;
         default:
@@ -103,7 +126,7 @@ Stage StageOfSlot(int slot, const CpuFeatures& features, std::optional<Level> pr
 KernelSet MakeKernelTable(const CpuFeatures& features, std::optional<Level> primitives) {
     KernelSet table;
     for (int slot = 0; slot < slotCount; ++slot)
-        table.Take(slot, KernelsOf(StageOfSlot(slot, features, primitives), features, primitives));
+        table.Take(slot, KernelsOf(slot, StageOfSlot(slot, features, primitives), features, primitives));
     return table;
 }
 

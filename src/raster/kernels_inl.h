@@ -32,7 +32,7 @@ inline std::uint32_t* RowOf(const BitmapLockInfo& dst, int y) {
 
 // The loop for samples that are there already: one run of pixels where rows follow one another without a gap.
 template <Form V, class Source, class Operation>
-void RunRowByRow(const BitmapLockInfo& dst, const Source& rows, const Operation& op) {
+[[gnu::flatten]] void RunRowByRow(const BitmapLockInfo& dst, const Source& rows, const Operation& op) {
     const std::int64_t pixels = static_cast<std::int64_t>(dst.bmWidth) * dst.bmHeight;
     if (dst.bmHeight > 0 && dst.bmWidthBytes == std::int64_t{4} * dst.bmWidth && rows.IsOneRun(dst.bmWidth) &&
         pixels <= INT32_MAX)

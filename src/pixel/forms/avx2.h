@@ -21,6 +21,8 @@ struct Avx2 {
     // The factor of a pixel twice in 16 bits.
     struct Weight {
         __m256i factors;
+
+        friend Weight operator-(Weight k, Weight l) { return {_mm256_sub_epi16(k.factors, l.factors)}; }
     };
 
     // Blue and red, and green and alpha, of each pixel.
@@ -180,13 +182,14 @@ struct Avx2 {
         StoreAll(sums, _mm256_packs_epi32(sum(0), sum(1)));
     }
 
-    static Avx2 MixSums(const std::int16_t* const* rows, int i, const RowWeights& weights) {
+    template <int rowLength>
+    static Avx2 MixSums(const std::int16_t* rows, int i, const RowWeights& weights) {
         std::int32_t pairs[2];
         std::memcpy(pairs, weights.weight, sizeof pairs);
         const __m256i first = _mm256_set1_epi32(pairs[0]), last = _mm256_set1_epi32(pairs[1]);
         const auto mixed = [&](int at) {
-            const __m256i r0 = LoadAll(rows[0] + at), r1 = LoadAll(rows[1] + at);
-            const __m256i r2 = LoadAll(rows[2] + at), r3 = LoadAll(rows[3] + at);
+            const __m256i r0 = LoadAll(rows + at), r1 = LoadAll(rows + rowLength + at);
+            const __m256i r2 = LoadAll(rows + 2 * rowLength + at), r3 = LoadAll(rows + 3 * rowLength + at);
             const auto total = [&](__m256i upper, __m256i lower) {
                 const __m256i sum = _mm256_add_epi32(_mm256_madd_epi16(upper, first), _mm256_madd_epi16(lower, last));
                 return _mm256_srai_epi32(_mm256_add_epi32(sum, _mm256_set1_epi32(verticalRound)), verticalShift);

@@ -16,6 +16,8 @@ struct Avx512 {
     // The factor of a pixel twice in 16 bits.
     struct Weight {
         __m512i factors;
+
+        friend Weight operator-(Weight k, Weight l) { return {_mm512_sub_epi16(k.factors, l.factors)}; }
     };
 
     // Blue and red, and green and alpha, of each pixel.
@@ -116,13 +118,14 @@ struct Avx512 {
         _mm256_storeu_si256(reinterpret_cast<__m256i*>(sums), packed);
     }
 
-    static Avx512 MixSums(const std::int16_t* const* rows, int i, const RowWeights& weights) {
+    template <int rowLength>
+    static Avx512 MixSums(const std::int16_t* rows, int i, const RowWeights& weights) {
         std::int32_t pairs[2];
         std::memcpy(pairs, weights.weight, sizeof pairs);
         const __m512i first = _mm512_set1_epi32(pairs[0]), last = _mm512_set1_epi32(pairs[1]);
         const auto mixed = [&](int at) {
-            const __m512i r0 = LoadAll(rows[0] + at), r1 = LoadAll(rows[1] + at);
-            const __m512i r2 = LoadAll(rows[2] + at), r3 = LoadAll(rows[3] + at);
+            const __m512i r0 = LoadAll(rows + at), r1 = LoadAll(rows + rowLength + at);
+            const __m512i r2 = LoadAll(rows + 2 * rowLength + at), r3 = LoadAll(rows + 3 * rowLength + at);
             const auto total = [&](__m512i upper, __m512i lower) {
                 const __m512i sum = _mm512_add_epi32(_mm512_madd_epi16(upper, first), _mm512_madd_epi16(lower, last));
                 return _mm512_srai_epi32(_mm512_add_epi32(sum, _mm512_set1_epi32(verticalRound)), verticalShift);

@@ -95,11 +95,12 @@ struct Baseline {
             }
     }
 
-    static Baseline MixSums(const std::int16_t* const* rows, int i, const RowWeights& weights) {
+    template <int rowLength>
+    static Baseline MixSums(const std::int16_t* rows, int i, const RowWeights& weights) {
         std::uint32_t pixel = 0;
         for (int channel = 0; channel < 4; ++channel) {
             int sum = verticalRound;
-            for (int tap = 0; tap < 4; ++tap) sum += rows[tap][4 * i + channel] * weights.weight[tap];
+            for (int tap = 0; tap < 4; ++tap) sum += rows[tap * rowLength + 4 * i + channel] * weights.weight[tap];
             sum >>= verticalShift;
             pixel |= static_cast<std::uint32_t>(sum < 0 ? 0 : sum > 255 ? 255 : sum) << (8 * channel);
         }

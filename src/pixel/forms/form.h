@@ -18,16 +18,16 @@ namespace {
 template <class V>
 concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std::uint32_t* in, std::uint32_t* out,
                         std::uint32_t word, int number, const int* places, const TapGroup& taps, std::int16_t* sums,
-                        const std::int16_t* const* rows, const std::byte* bytes, std::ptrdiff_t step,
-                        V (&columnVectors)[4]) {
+                        const std::byte* bytes, std::ptrdiff_t step, V (&columnVectors)[4]) {
     { V::lanes } -> std::convertible_to<int>;
     { V::picksFromWindows } -> std::convertible_to<bool>;
-    typename V::Guard;                                             // lives as long as vectors are in use
-    { V::Load(in) } -> std::same_as<V>;                            // any alignment
-    { V::LoadPart(in, number) } -> std::same_as<V>;                // the first 1..lanes - 1 pixels; touches no other
-    { V::Broadcast(word) } -> std::same_as<V>;                     // one pixel in every lane
-    { V::Uniform(number) } -> std::same_as<typename V::Weight>;    // one factor, 0..256, for every lane
-    { V::LoadWeights(in) } -> std::same_as<typename V::Weight>;    // one factor, 0..256, from every 32-bit word
+    typename V::Guard;                                           // lives as long as vectors are in use
+    { V::Load(in) } -> std::same_as<V>;                          // any alignment
+    { V::LoadPart(in, number) } -> std::same_as<V>;              // the first 1..lanes - 1 pixels; touches no other
+    { V::Broadcast(word) } -> std::same_as<V>;                   // one pixel in every lane
+    { V::Uniform(number) } -> std::same_as<typename V::Weight>;  // one factor, 0..256, for every lane
+    { V::LoadWeights(in) } -> std::same_as<typename V::Weight>;  // one factor, 0..256, from every 32-bit word
+    { k - k } -> std::same_as<typename V::Weight>;
     { V::ScaleWeight(k, k) } -> std::same_as<typename V::Weight>;  // k x l >> 8
     v.Store(out);
     v.StorePart(out, number);
@@ -77,7 +77,8 @@ concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std
 
     // Four-tap filters; see taps.h.
     V::SumTaps(in, taps, sums);
-    { V::MixSums(rows, number, RowWeights{}) } -> std::same_as<V>;
+    // From pixel `number` on; the four rows are so many numbers apart.
+    { V::template MixSums<16>(sums, number, RowWeights{}) } -> std::same_as<V>;
 
     // Means of boxes; see boxes.h.
     requires Boxes<typename V::Boxes>;

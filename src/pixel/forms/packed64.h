@@ -20,6 +20,8 @@ struct Packed64 {
     // The factor of a pixel twice in 16 bits.
     struct Weight {
         __m64 factors;
+
+        friend Weight operator-(Weight k, Weight l) { return {_mm_sub_pi16(k.factors, l.factors)}; }
     };
 
     // Blue and red, and green and alpha, of each pixel.
@@ -100,13 +102,14 @@ struct Packed64 {
         }
     }
 
-    static Packed64 MixSums(const std::int16_t* const* rows, int i, const RowWeights& weights) {
+    template <int rowLength>
+    static Packed64 MixSums(const std::int16_t* rows, int i, const RowWeights& weights) {
         std::int32_t pairs[2];
         std::memcpy(pairs, weights.weight, sizeof pairs);
         const __m64 first = _mm_set1_pi32(pairs[0]), last = _mm_set1_pi32(pairs[1]);
         const auto mixed = [&](int at) {
-            const __m64 r0 = LoadAll(rows[0] + at), r1 = LoadAll(rows[1] + at);
-            const __m64 r2 = LoadAll(rows[2] + at), r3 = LoadAll(rows[3] + at);
+            const __m64 r0 = LoadAll(rows + at), r1 = LoadAll(rows + rowLength + at);
+            const __m64 r2 = LoadAll(rows + 2 * rowLength + at), r3 = LoadAll(rows + 3 * rowLength + at);
             const auto total = [&](__m64 upper, __m64 lower) {
                 const __m64 sum = _mm_add_pi32(_mm_madd_pi16(upper, first), _mm_madd_pi16(lower, last));
                 return _mm_srai_pi32(_mm_add_pi32(sum, _mm_set1_pi32(verticalRound)), verticalShift);

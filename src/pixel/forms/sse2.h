@@ -18,6 +18,8 @@ struct Sse2 {
     // The factor of a pixel twice in 16 bits.
     struct Weight {
         __m128i factors;
+
+        friend Weight operator-(Weight k, Weight l) { return {_mm_sub_epi16(k.factors, l.factors)}; }
     };
 
     // Blue and red, and green and alpha, of each pixel.
@@ -167,13 +169,14 @@ struct Sse2 {
         StoreAll(sums + 8, _mm_packs_epi32(sum(2), sum(3)));
     }
 
-    static Sse2 MixSums(const std::int16_t* const* rows, int i, const RowWeights& weights) {
+    template <int rowLength>
+    static Sse2 MixSums(const std::int16_t* rows, int i, const RowWeights& weights) {
         std::int32_t pairs[2];
         std::memcpy(pairs, weights.weight, sizeof pairs);
         const __m128i first = _mm_set1_epi32(pairs[0]), last = _mm_set1_epi32(pairs[1]);
         const auto mixed = [&](int at) {
-            const __m128i r0 = LoadAll(rows[0] + at), r1 = LoadAll(rows[1] + at);
-            const __m128i r2 = LoadAll(rows[2] + at), r3 = LoadAll(rows[3] + at);
+            const __m128i r0 = LoadAll(rows + at), r1 = LoadAll(rows + rowLength + at);
+            const __m128i r2 = LoadAll(rows + 2 * rowLength + at), r3 = LoadAll(rows + 3 * rowLength + at);
             const auto total = [&](__m128i upper, __m128i lower) {
                 const __m128i sum = _mm_add_epi32(_mm_madd_epi16(upper, first), _mm_madd_epi16(lower, last));
                 return _mm_srai_epi32(_mm_add_epi32(sum, _mm_set1_epi32(verticalRound)), verticalShift);

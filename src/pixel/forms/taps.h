@@ -10,7 +10,7 @@ namespace {
 // The taps of four neighbouring columns: four consecutive source pixels each. Column p + 2 x k has its weights at
 // [p][0][k], the first two, and [p][1][k], the last two, four times each, one for every channel.
 struct TapGroup {
-    alignas(64) std::int16_t weights[2][2][2][8];
+    alignas(32) std::int16_t weights[2][2][2][8];
     int first[4];
 
     void Set(int column, int firstPixel, const std::int16_t (&weight)[4]) {
@@ -20,7 +20,7 @@ struct TapGroup {
     }
 };
 
-// The weights of four source rows.
+// The weights of four rows of sums.
 struct RowWeights {
     std::int16_t weight[4];
 };

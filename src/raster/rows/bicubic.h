@@ -26,15 +26,21 @@ public:
     void PrepareColumns(int x, int n) {
         groupCount = (n + 3) / 4;
         sums.Clear();
-        for (int i = 0; i < 4 * groupCount; ++i) PrepareColumn(i, stepsX.At(x + (i < n ? i : n - 1)));
+        int i = 0;
+        stepsX.ForEach(x, 4 * groupCount, [&](Position at) { PrepareColumn(i++, at); });
     }
 
     const std::uint32_t* Fetch(int y, int, int n, std::uint32_t* out) {
         const Position at = stepsY.At(y);
-        const RowWeights weights = WeightsAt(at.fraction);
-        const std::int16_t* rows[4];
-        for (int k = 0; k < 4; ++k) rows[k] = SumsOfRow(ClampIndex(at.pixel - 1 + k, src.bmHeight)).numbers;
-        StoreVectors<V>(out, n, [&](int k) { return V::MixSums(rows, k * V::lanes, weights); });
+        const RowWeights ofTap = WeightsAt(at.fraction);
+        // By places in the ring: a row that repeats at an edge has the weights of all its taps.
+        RowWeights weights{};
+        for (int k = 0; k < 4; ++k) {
+            std::int16_t& weight = weights.weight[PlaceOfSums(ClampIndex(at.pixel - 1 + k, src.bmHeight))];
+            weight = static_cast<std::int16_t>(weight + ofTap.weight[k]);
+        }
+        const std::int16_t* const first = sums.Rows()->numbers;
+        StoreVectors<V>(out, n, [=](int k) { return V::template MixSums<4 * chunk>(first, k * V::lanes, weights); });
         return out;
     }
 
@@ -71,8 +77,8 @@ private:
         taps[i / 4].Set(i % 4, first, ofPixel);
     }
 
-    const RowSums& SumsOfRow(int sourceRow) {
-        return sums.Get(sourceRow, [&](RowSums& row) {
+    std::size_t PlaceOfSums(int sourceRow) {
+        return sums.PlaceOf(sourceRow, [&](RowSums& row) {
             const std::byte* const bytes = SourceRow(src, sourceRow);
             const auto* pixels = reinterpret_cast<const std::uint32_t*>(bytes);
             std::uint32_t tapPixels[4 * chunk];

@@ -1,8 +1,8 @@
 // Two taps each way, weighted by the position's 8-bit fractions; edge pixels repeat outward. The four weights sum to
 // 256 and the sum of the products is truncated.
 //
-// With c = tx x ty >> 8 the weights are 256 - tx - ty + c, tx - c, ty - c and c. Sorted by source row, with d the
-// difference right - left of a row's taps, the sum is
+// With c = tx x ty >> 8 the weights are 256 - tx - ty + c, tx - c, ty - c and c. Enlargements sort the sum by source row:
+// with d the difference right - left of a row's taps it is
 //     (256 x left0 + tx x d0) + ty x (left1 - left0) + c x (d1 - d0),
 // and what concerns one row is made once for all destination rows between it and its neighbours.
 #pragma once
@@ -32,16 +32,15 @@ public:
         rows.Clear();
         // A pair beyond an edge is the one at the edge, of which it shows one pixel.
         const int lastPair = src.bmWidth > 1 ? src.bmWidth - 2 : 0;
-        columns.Prepare(n, src.bmWidth - 1, stepsX.Step(),
-                        [&](int i) { return ClampIndex(stepsX.At(x + i).pixel, lastPair + 1); });
-        alignas(64) std::uint32_t fractions[V::lanes] = {};
-        for (int i = 0; i < n; ++i) {
-            const Position at = stepsX.At(x + i);
-            fractions[i % V::lanes] = at.pixel < 0          ? 0
-                                      : at.pixel > lastPair ? 256
-                                                            : static_cast<std::uint32_t>(at.fraction);
-            tx[i / V::lanes] = V::LoadWeights(fractions);
-        }
+        alignas(64) std::uint32_t fractions[chunk];
+        int i = 0;
+        stepsX.ForEach(x, n, [&](Position at) {
+            columns.Set(i, ClampIndex(at.pixel, lastPair + 1));
+            fractions[i++] = static_cast<std::uint32_t>(at.pixel < 0 ? 0 : at.pixel > lastPair ? 256 : at.fraction);
+        });
+        for (; i % V::lanes != 0; ++i) fractions[i] = 0;
+        columns.Prepare(n, src.bmWidth - 1, stepsX.Step());
+        for (int k = 0; k < vectorCount; ++k) tx[k] = V::LoadWeights(fractions + k * V::lanes);
     }
 
     const std::uint32_t* Fetch(int y, int, int n, std::uint32_t* out) {
@@ -54,9 +53,8 @@ public:
         } else {
             const std::uint32_t *const u = Pixels(upper), *const l = Pixels(lower);
             WithReach<V>(columns.ReachOfAll(), [&]<Reach reach>() {
-                StoreVectors<V>(out, n, [&](int k) {
-                    return Mix(TapsOf(PairsAt<reach>(u, k), tx[k]), TapsOf(PairsAt<reach>(l, k), tx[k]), tx[k], ty);
-                });
+                StoreVectors<V>(out, n,
+                                [&](int k) { return Mix(PairsAt<reach>(u, k), PairsAt<reach>(l, k), tx[k], ty); });
             });
         }
         return out;
@@ -103,6 +101,12 @@ private:
     static Taps TapsOf(const Pairs& pairs, typename V::Weight t) {
         const typename V::Wide left = Widened(pairs.left), difference = Widened(pairs.right) - left;
         return {Times256(left) + difference * t, left, difference};
+    }
+
+    static V Mix(const Pairs& upper, const Pairs& lower, typename V::Weight t, typename V::Weight ty) {
+        const typename V::Weight c = V::ScaleWeight(t, ty), below = ty - c;
+        return HighBytes(Widened(upper.left) * (V::Uniform(256) - t - below) + Widened(upper.right) * (t - c) +
+                         Widened(lower.left) * below + Widened(lower.right) * c);
     }
 
     static V Mix(const Taps& upper, const Taps& lower, typename V::Weight t, typename V::Weight ty) {

@@ -12,11 +12,11 @@ enum class Reach { anywhere = 0, oneVector = 1, twoVectors = 2 };
 template <Form V, std::size_t blockWidth>
 class Columns {
 public:
-    // columnOf(i), i from 0 to n - 1, ascends by a step of 16.16 pixels, but for its edges. Whole vectors are prepared:
-    // the last column is repeated.
-    template <class Function>
-    void Prepare(int n, int sourceWidth, std::int64_t step, Function columnOf) {
-        for (int i = 0; i < n; ++i) lane[i] = columnOf(i);
+    // First the column of each pixel, in ascending order and by a step of 16.16 pixels, but for the edges.
+    void Set(int i, int column) { lane[i] = column; }
+
+    // Then all n of them. Whole vectors are prepared: the last column is repeated.
+    void Prepare(int n, int sourceWidth, std::int64_t step) {
         for (int i = n; i % V::lanes != 0; ++i) lane[i] = lane[n - 1];
         reach = Reach::anywhere;
         if constexpr (V::picksFromWindows) reach = ReachOf(sourceWidth, step);

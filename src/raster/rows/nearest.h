@@ -23,11 +23,9 @@ public:
     void PrepareColumns(int x, int n) {
         // Positions stay below the source's width, so 32 bits hold them.
         auto position = static_cast<std::uint32_t>((left + x) * stepX);
-        columns.Prepare(n, src.bmWidth, stepX, [&](int) {
-            const auto column = static_cast<int>(position >> 16);
-            position += static_cast<std::uint32_t>(stepX);
-            return column;
-        });
+        const auto step = static_cast<std::uint32_t>(stepX);
+        for (int i = 0; i < n; ++i, position += step) columns.Set(i, static_cast<int>(position >> 16));
+        columns.Prepare(n, src.bmWidth, stepX);
         fetchedRow = -1;
     }
 

@@ -14,15 +14,23 @@ public:
         for (int& source : sourceRows) source = -1;
     }
 
+    // Where the row is; make(row) prepares it if it is not there yet.
     template <class Make>
-    const Row& Get(int sourceRow, Make make) {
+    std::size_t PlaceOf(int sourceRow, Make make) {
         const std::size_t place = static_cast<std::size_t>(sourceRow) % count;
         if (sourceRows[place] != sourceRow) {
             make(rows[place]);
             sourceRows[place] = sourceRow;
         }
-        return rows[place];
+        return place;
     }
+
+    template <class Make>
+    const Row& Get(int sourceRow, Make make) {
+        return rows[PlaceOf(sourceRow, make)];
+    }
+
+    const Row* Rows() const { return rows; }
 
 private:
     Row rows[count];

@@ -8,13 +8,11 @@
 namespace zorvic {
 namespace {
 
-constexpr int ClampIndex(std::int64_t index, int extent) {
-    return index < 0 ? 0 : index >= extent ? extent - 1 : static_cast<int>(index);
-}
+constexpr int ClampIndex(int index, int extent) { return index < 0 ? 0 : index >= extent ? extent - 1 : index; }
 
 // A position between two source pixels: the whole part, and the fraction in 1/256.
 struct Position {
-    std::int64_t pixel;
+    int pixel;
     int fraction;
 };
 
@@ -26,12 +24,20 @@ public:
 
     std::int64_t Step() const { return step; }
 
-    Position At(int i) const {
-        const std::int64_t f = start + i * step;
-        return {f >> 16, static_cast<int>(f >> 8 & 0xFF)};
+    Position At(int i) const { return PositionOf(start + i * step); }
+
+    // Calls f(position) for n of them, the first being i.
+    template <class Function>
+    void ForEach(int i, int n, const Function& f) const {
+        std::int64_t position = start + i * step;
+        for (; n > 0; --n, position += step) f(PositionOf(position));
     }
 
 private:
+    static Position PositionOf(std::int64_t f) {
+        return {static_cast<int>(f >> 16), static_cast<int>(static_cast<std::uint32_t>(f) >> 8 & 0xFF)};
+    }
+
     std::int64_t step;
     std::int64_t start;
 };
