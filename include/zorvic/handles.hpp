@@ -37,7 +37,7 @@ public:
         Reset(other.Release());
         return *this;
     }
-    ~Owned() { Ref::Delete(Ref::Get()); }
+    ~Owned() { Reset(); }
 
     // The caller deletes it from now on.
     [[nodiscard]] Handle Release() {
@@ -46,7 +46,7 @@ public:
         return released;
     }
     void Reset(Handle owned = nullptr) {
-        Ref::Delete(Ref::Get());
+        if (*this) Ref::Delete(Ref::Get());
         Ref::operator=(Ref(owned));
     }
 };

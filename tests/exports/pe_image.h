@@ -1,4 +1,4 @@
-// What a loaded DLL's headers say: the names it exports, with their addresses, and the DLLs it imports.
+// What the headers of a loaded program or DLL say: the names it exports, with their addresses, and what it imports.
 #pragma once
 
 #include <windows.h>
@@ -31,6 +31,21 @@ public:
             imports.insert(name);
         }
         return imports;
+    }
+
+    // Where this image keeps the addresses of what it imports from a DLL whose name starts so. A name that is linked in
+    // two ways has two places.
+    std::multimap<std::string, const void*> ImportSlots(const std::string& dll) const {
+        std::multimap<std::string, const void*> slots;
+        for (const auto* entry = Directory<IMAGE_IMPORT_DESCRIPTOR>(IMAGE_DIRECTORY_ENTRY_IMPORT); entry->Name;
+             ++entry) {
+            if (!std::string(At<char>(entry->Name)).starts_with(dll)) continue;
+            const auto* names = At<IMAGE_THUNK_DATA>(entry->OriginalFirstThunk);
+            const auto* slot = At<IMAGE_THUNK_DATA>(entry->FirstThunk);
+            for (; names->u1.AddressOfData; ++names, ++slot)
+                slots.emplace(At<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(names->u1.AddressOfData))->Name, slot);
+        }
+        return slots;
     }
 
 private:
