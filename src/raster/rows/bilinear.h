@@ -39,7 +39,7 @@ public:
             fractions[i++] = static_cast<std::uint32_t>(at.pixel < 0 ? 0 : at.pixel > lastPair ? 256 : at.fraction);
         });
         for (; i % V::lanes != 0; ++i) fractions[i] = 0;
-        columns.Prepare(n, src.bmWidth - 1, stepsX.Step());
+        columns.Prepare(n, src.bmWidth, 1, stepsX.Step());
         for (int k = 0; k < vectorCount; ++k) tx[k] = V::LoadWeights(fractions + k * V::lanes);
     }
 
@@ -51,7 +51,9 @@ public:
             const Row &u = TapsOfRow(upper), &l = TapsOfRow(lower);
             StoreVectors<V>(out, n, [&](int k) { return Mix(u.taps[k], l.taps[k], tx[k], ty); });
         } else {
-            const std::uint32_t *const u = Pixels(upper), *const l = Pixels(lower);
+            RowCopy upperCopy, lowerCopy;
+            const std::uint32_t* const u = columns.Readable(Pixels(upper), upperCopy);
+            const std::uint32_t* const l = columns.Readable(Pixels(lower), lowerCopy);
             WithReach<V>(columns.ReachOfAll(), [&]<Reach reach>() {
                 StoreVectors<V>(out, n,
                                 [&](int k) { return Mix(PairsAt<reach>(u, k), PairsAt<reach>(l, k), tx[k], ty); });
@@ -63,6 +65,8 @@ public:
 private:
     // Below this step rows are used often enough to be kept.
     static constexpr std::int64_t rowsPayBelow = 0xC000;
+
+    using RowCopy = typename Columns<V, blockWidth>::RowCopy;
 
     struct Pairs {
         V left, right;
@@ -117,9 +121,10 @@ private:
     const Row& TapsOfRow(int sourceRow) {
         return rows.Get(sourceRow, [&](Row& row) {
             if (readsPairs) {
+                RowCopy copy;
+                const std::uint32_t* const pixels = columns.Readable(Pixels(sourceRow), copy);
                 WithReach<V>(columns.ReachOfAll(), [&]<Reach reach>() {
-                    for (int k = 0; k < vectorCount; ++k)
-                        row.taps[k] = TapsOf(PairsAt<reach>(Pixels(sourceRow), k), tx[k]);
+                    for (int k = 0; k < vectorCount; ++k) row.taps[k] = TapsOf(PairsAt<reach>(pixels, k), tx[k]);
                 });
             } else {
                 for (int k = 0; k < vectorCount; ++k)

@@ -1,6 +1,7 @@
 // The source columns that the pixels of a block show, found once for all rows of the block.
 #pragma once
 
+#include "pixel/spans_inl.h"
 #include "raster/rows/pixel.h"
 
 namespace zorvic {
@@ -15,18 +16,28 @@ public:
     // First the column of each pixel, in ascending order and by a step of 16.16 pixels, but for the edges.
     void Set(int i, int column) { lane[i] = column; }
 
-    // Then all n of them. Whole vectors are prepared: the last column is repeated.
-    void Prepare(int n, int sourceWidth, std::int64_t step) {
+    // Then all n of them, for rows of sourceWidth pixels and picks that reach `beyond` pixels to the right. Whole vectors
+    // are prepared: the last column is repeated.
+    void Prepare(int n, int sourceWidth, int beyond, std::int64_t step) {
         for (int i = n; i % V::lanes != 0; ++i) lane[i] = lane[n - 1];
-        reach = Reach::anywhere;
-        if constexpr (V::picksFromWindows) reach = ReachOf(sourceWidth, step);
+        if constexpr (V::picksFromWindows) reach = ReachOf(step);
         const int window = static_cast<int>(reach) * V::lanes;
+        copiedWidth = window + beyond > sourceWidth ? sourceWidth : 0;
+        // Windows end inside the row.
+        const int lastStart = window == 0 || copiedWidth > 0 ? 0 : sourceWidth - window - beyond;
         for (int i = 0; i < n; i += V::lanes) {
-            // Windows end inside the row.
-            const int first = window == 0 ? 0 : lane[i] < sourceWidth - window ? lane[i] : sourceWidth - window;
+            const int first = lane[i] < lastStart ? lane[i] : lastStart;
             start[i / V::lanes] = first;
             for (int k = 0; k < V::lanes; ++k) lane[i + k] -= first;
         }
+    }
+
+    // A row as it can be picked from: rows narrower than a window are copied.
+    using RowCopy = std::uint32_t[2 * V::lanes + 1];
+    const std::uint32_t* Readable(const std::uint32_t* row, RowCopy& copy) const {
+        if (copiedWidth == 0) return row;
+        ApplySpan<V>(Copy{}, copy, row, copiedWidth);
+        return copy;
     }
 
     Reach ReachOfAll() const { return reach; }
@@ -45,15 +56,16 @@ public:
     }
 
 private:
-    static Reach ReachOf(int sourceWidth, std::int64_t step) {
+    static Reach ReachOf(std::int64_t step) {
         const std::int64_t widest = ((V::lanes - 1) * step >> 16) + 2;
-        if (widest <= V::lanes && V::lanes <= sourceWidth) return Reach::oneVector;
-        return widest <= 2 * V::lanes && 2 * V::lanes <= sourceWidth ? Reach::twoVectors : Reach::anywhere;
+        if (widest <= V::lanes) return Reach::oneVector;
+        return widest <= 2 * V::lanes ? Reach::twoVectors : Reach::anywhere;
     }
 
     // Column i is lane[i] pixels behind the start of its vector's window.
     alignas(64) int lane[blockWidth];
     int start[blockWidth / V::lanes];
+    int copiedWidth = 0;
     Reach reach = Reach::anywhere;
 };
 

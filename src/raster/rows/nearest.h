@@ -25,7 +25,7 @@ public:
         auto position = static_cast<std::uint32_t>((left + x) * stepX);
         const auto step = static_cast<std::uint32_t>(stepX);
         for (int i = 0; i < n; ++i, position += step) columns.Set(i, static_cast<int>(position >> 16));
-        columns.Prepare(n, src.bmWidth, stepX);
+        columns.Prepare(n, src.bmWidth, 0, stepX);
         fetchedRow = -1;
     }
 
@@ -37,7 +37,8 @@ public:
         fetched = out;
         const std::byte* const row = SourceRow(src, static_cast<std::ptrdiff_t>(sourceRow));
         if constexpr (depth == SourceDepth::argb32) {
-            const auto* const pixels = reinterpret_cast<const std::uint32_t*>(row);
+            typename Columns<V, blockWidth>::RowCopy copy;
+            const auto* const pixels = columns.Readable(reinterpret_cast<const std::uint32_t*>(row), copy);
             WithReach<V>(columns.ReachOfAll(), [&]<Reach reach>() {
                 StoreVectors<V>(out, n, [&](int k) { return columns.template Pick<reach>(pixels, k); });
             });
