@@ -166,7 +166,7 @@ consteval PrimitiveSet MakePrimitives() {
             [](const void* src, void* dst, std::size_t bytes) {
                 CopyBytes<V>(static_cast<const std::byte*>(src), static_cast<std::byte*>(dst), bytes);
             },
-        .transpose = Transpose<V>,
+        .transpose = Transpose<typename V::ColumnForm>,
         .slideColumns =
             [](std::uint32_t* columns, const std::uint32_t* entering, const std::uint32_t* leaving, int n) {
                 [[maybe_unused]] const typename V::Guard guard;

@@ -98,35 +98,6 @@ int RunRows(const BitmapLockInfo& dst, const Placement& placement, const BitmapL
     }
 }
 
-template <Op op>
-struct Operator;
-// clang-format off
-template <> struct Operator<Op::copy> { using Type = Copy; };
-template <> struct Operator<Op::sourceOver> { using Type = SourceOver; };
-template <> struct Operator<Op::constantAlpha> { using Type = ConstantAlpha; };
-template <> struct Operator<Op::opaqueAlpha> { using Type = OpaqueAlpha; };
-template <> struct Operator<Op::colorKey> { using Type = ColorKey; };
-template <> struct Operator<Op::multiply> { using Type = Multiply; };
-template <> struct Operator<Op::destinationOver> { using Type = DestinationOver; };
-template <> struct Operator<Op::bitOr> { using Type = BitOr; };
-template <> struct Operator<Op::grayWash> { using Type = GrayWash; };
-template <> struct Operator<Op::crossFade> { using Type = CrossFade; };
-template <> struct Operator<Op::mixColor> { using Type = MixColor; };
-template <> struct Operator<Op::makeOpaque> { using Type = MakeOpaque; };
-// clang-format on
-
-// The operation on the samples of a row source: bicubic samples may have overshot.
-template <Op op, Rows rows>
-struct OperatorOn : Operator<op> {};
-template <>
-struct OperatorOn<Op::sourceOver, Rows::bicubic> {
-    using Type = SaturatedOver;
-};
-template <>
-struct OperatorOn<Op::constantAlpha, Rows::bicubic> {
-    using Type = AtOpacity<SaturatedOver>;
-};
-
 // A kernel's entry point: turns the argument list into a row source and an operation.
 template <Form V, WeightEncoding weights, Rows rows, Op op, SourceDepth depth, class Kernel>
 struct Entry;

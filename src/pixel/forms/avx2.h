@@ -16,6 +16,7 @@ inline __m256i ShufflePixels(__m256i pixels, __m128i places) {
 
 struct Avx2 {
     using Boxes = Avx2Boxes;
+    using ColumnForm = Avx2;
     using Narrower = Sse2;  // for spans shorter than a vector
 
     // The factor of a pixel twice in 16 bits.

@@ -12,6 +12,7 @@ namespace {
 
 struct Avx512 {
     using Boxes = Avx2Boxes;
+    using ColumnForm = Avx2;  // sixteen rows at once push one another out of the cache
 
     // The factor of a pixel twice in 16 bits.
     struct Weight {
@@ -81,21 +82,6 @@ struct Avx512 {
         const __m512i from = LoadAll(lane);
         left = PickFrom<reach>(window, from);
         right = PickFrom<reach>(window + 1, from);
-    }
-
-    // Rows i, i + 4, i + 8 and i + 12 side by side.
-    static void LoadColumns(const std::byte* rows, std::ptrdiff_t step, Avx512 (&columns)[4]) {
-        const auto fourRows = [=](int i) {
-            const auto row = [=](int k) { return LoadQuarter(rows + k * step); };
-            return Quarters(row(i), row(i + 4), row(i + 8), row(i + 12));
-        };
-        const __m512i r0 = fourRows(0), r1 = fourRows(1), r2 = fourRows(2), r3 = fourRows(3);
-        const __m512i left = _mm512_unpacklo_epi32(r0, r1), leftBelow = _mm512_unpacklo_epi32(r2, r3);
-        const __m512i right = _mm512_unpackhi_epi32(r0, r1), rightBelow = _mm512_unpackhi_epi32(r2, r3);
-        columns[0] = {_mm512_unpacklo_epi64(left, leftBelow)};
-        columns[1] = {_mm512_unpackhi_epi64(left, leftBelow)};
-        columns[2] = {_mm512_unpacklo_epi64(right, rightBelow)};
-        columns[3] = {_mm512_unpackhi_epi64(right, rightBelow)};
     }
 
     static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {

@@ -16,6 +16,7 @@ constexpr std::uint32_t oddBytes = 0xFF00FF00;
 
 struct Baseline {
     using Boxes = BaselineBoxes;
+    using ColumnForm = Baseline;
     using Weight = std::uint32_t;
 
     // Two 16-bit numbers in each word. Borrows and carries between them cancel: what the sums come to at the end lies

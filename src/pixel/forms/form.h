@@ -18,7 +18,7 @@ namespace {
 template <class V>
 concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std::uint32_t* in, std::uint32_t* out,
                         std::uint32_t word, int number, const int* places, const TapGroup& taps, std::int16_t* sums,
-                        const std::byte* bytes, std::ptrdiff_t step, V (&columnVectors)[4]) {
+                        const std::byte* bytes, std::ptrdiff_t step, typename V::ColumnForm (&columnVectors)[4]) {
     { V::lanes } -> std::convertible_to<int>;
     { V::picksFromWindows } -> std::convertible_to<bool>;
     typename V::Guard;                                           // lives as long as vectors are in use
@@ -72,8 +72,8 @@ concept Form = requires(V v, typename V::Weight k, typename V::Wide w, const std
     { V::template Pick<0>(in, places) } -> std::same_as<V>;
     V::template PickPairs<0>(in, places, v, v);  // and their right neighbours
 
-    // Four columns of `lanes` rows, each from top to bottom; step: bytes from row to row.
-    V::LoadColumns(bytes, step, columnVectors);
+    // Four columns of `lanes` rows of the form that turns images, each from top to bottom; step: bytes from row to row.
+    V::ColumnForm::LoadColumns(bytes, step, columnVectors);
 
     // Four-tap filters; see taps.h.
     V::SumTaps(in, taps, sums);

@@ -16,6 +16,7 @@ namespace {
 template <class Spread>
 struct Packed64 {
     using Boxes = BaselineBoxes;  // means take floating point, which these registers rule out
+    using ColumnForm = Packed64;
 
     // The factor of a pixel twice in 16 bits.
     struct Weight {

@@ -14,6 +14,7 @@ namespace {
 
 struct Sse2 {
     using Boxes = Sse2Boxes;
+    using ColumnForm = Sse2;
 
     // The factor of a pixel twice in 16 bits.
     struct Weight {

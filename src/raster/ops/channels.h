@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pixel/forms/form.h"
+#include "raster/ops/operator.h"
 
 namespace zorvic {
 namespace {
@@ -12,6 +13,10 @@ struct Multiply {
         return MultiplyBytes(src, dst);
     }
 };
+template <>
+struct Operator<Op::multiply> {
+    using Type = Multiply;
+};
 
 struct BitOr {
     template <Form V>
@@ -19,12 +24,20 @@ struct BitOr {
         return dst | src;
     }
 };
+template <>
+struct Operator<Op::bitOr> {
+    using Type = BitOr;
+};
 
 struct MakeOpaque {
     template <Form V>
     V operator()(V dst, V) const {
         return dst | V::Broadcast(0xFF000000);
     }
+};
+template <>
+struct Operator<Op::makeOpaque> {
+    using Type = MakeOpaque;
 };
 
 // Adds the pixel's grey by the sample's alpha to what the pixel's own alpha leaves of its colour.
@@ -34,6 +47,10 @@ struct GrayWash {
         const V gray = Scale(Luma(dst), AlphaWeight(src));
         return WithAlphaOf(AddBytes(Scale(dst, InverseAlpha(dst)), gray), dst);
     }
+};
+template <>
+struct Operator<Op::grayWash> {
+    using Type = GrayWash;
 };
 
 }  // namespace

@@ -3,9 +3,23 @@
 
 #include "pixel/forms/form.h"
 #include "pixel/ops/compose.h"
+#include "raster/ops/operator.h"
 
 namespace zorvic {
 namespace {
+
+template <>
+struct Operator<Op::copy> {
+    using Type = Copy;
+};
+template <>
+struct Operator<Op::sourceOver> {
+    using Type = SourceOver;
+};
+template <>
+struct Operator<Op::constantAlpha> {
+    using Type = ConstantAlpha;
+};
 
 // Source-over of samples whose colour may exceed their alpha, as a filter that overshoots makes them: bytes saturate
 // instead of carrying into the next channel. The same as SourceOver for premultiplied samples.
@@ -15,12 +29,24 @@ struct SaturatedOver {
         return AddSaturated(src, Scale(dst, InverseAlpha(src)));
     }
 };
+template <>
+struct OperatorOn<Op::sourceOver, Rows::bicubic> {
+    using Type = SaturatedOver;
+};
+template <>
+struct OperatorOn<Op::constantAlpha, Rows::bicubic> {
+    using Type = AtOpacity<SaturatedOver>;
+};
 
 struct DestinationOver {
     template <Form V>
     V operator()(V dst, V src) const {
         return dst + Scale(src, InverseAlpha(dst));
     }
+};
+template <>
+struct Operator<Op::destinationOver> {
+    using Type = DestinationOver;
 };
 
 // ConstantAlpha for sources whose alpha byte means nothing.
@@ -36,6 +62,10 @@ public:
 private:
     ConstantAlpha blend;
 };
+template <>
+struct Operator<Op::opaqueAlpha> {
+    using Type = OpaqueAlpha;
+};
 
 // Copies what differs from the key, all 32 bits compared.
 class ColorKey {
@@ -49,6 +79,10 @@ public:
 
 private:
     std::uint32_t key;
+};
+template <>
+struct Operator<Op::colorKey> {
+    using Type = ColorKey;
 };
 
 }  // namespace

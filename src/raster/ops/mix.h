@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pixel/forms/form.h"
+#include "raster/ops/operator.h"
 
 namespace zorvic {
 namespace {
@@ -25,6 +26,10 @@ public:
 private:
     int factor;
 };
+template <>
+struct Operator<Op::crossFade> {
+    using Type = CrossFade;
+};
 
 // Truncates each product: a colour is scaled once for all pixels.
 class MixColor {
@@ -38,6 +43,10 @@ public:
 
 private:
     int factor;
+};
+template <>
+struct Operator<Op::mixColor> {
+    using Type = MixColor;
 };
 
 }  // namespace
