@@ -1,6 +1,8 @@
 // The two steps of the box filter along a row, for sums of any width.
 #pragma once
 
+#include <cstring>
+
 #include "pixel/forms/sums.h"
 
 namespace zorvic {
@@ -33,7 +35,7 @@ void BoxMeans(const typename S::Number* columns, int box, const typename S::Numb
         } else {
             std::uint32_t last[S::pixels];
             means.StorePixels(last);
-            for (int i = 0; i < n - x; ++i) out[x + i] = last[i];
+            std::memcpy(out + x, last, sizeof *last * static_cast<std::size_t>(n - x));  // rows may start at any byte
         }
         // Every pixel's box moves on by all pixels of the vector.
         for (int i = 0; i < S::pixels; ++i) sums = sums + (S::Load(entering + 4 * i) - S::Load(columns + 4 * i));
