@@ -167,8 +167,8 @@ OP_DESTINATION_OVER = 0x06000000  # drawn behind them; scaled bilinearly; ignore
 
 # Sampling filters: how a source is read when it is drawn at another size. Any other value is
 # bilinear too.
-FILTER_NEAREST = 0
-FILTER_BILINEAR = 1
+FILTER_NEAREST = 0  # the pixel below the middle of the target's; edges stay hard
+FILTER_BILINEAR = 1  # mean of 2 x 2 pixels, weighted by their distance
 FILTER_BICUBIC = 4  # kernel chosen by SetStretchKernelMode
 FILTER_AREA = 5  # mean of the covered source pixels; enlargements are bicubic
 
@@ -189,7 +189,7 @@ KERNEL_CUBIC_CONVOLUTION = 0  # with a = -1: sharp
 KERNEL_B_SPLINE = 1  # smooth; the default
 
 # Values of TextureMode::layout; any other value stretches.
-LAYOUT_STRETCH = 0
+LAYOUT_STRETCH = 0  # the slice fills the rectangle
 LAYOUT_NINE_GRID = 1  # DrawTexture9Grid; the argument holds its edge flags
 LAYOUT_TILE = 2  # DrawTextureTile; the argument holds its flags
 LAYOUT_CENTER = 3  # DrawTextureCenter
@@ -204,14 +204,14 @@ TILE_SCALED = 0x10  # tiles are drawn scaled
 UNIFORM_CENTERED = 1  # the middle of the texture is shown
 
 # Edge flags of DrawTexture9Grid, to be combined.
-EDGE_LEFT = 1
-EDGE_TOP = 2
-EDGE_RIGHT = 4
-EDGE_BOTTOM = 8
+EDGE_LEFT = 1  # the left margin
+EDGE_TOP = 2  # the top margin
+EDGE_RIGHT = 4  # the right margin
+EDGE_BOTTOM = 8  # the bottom margin
 
 # Directions of FillGradualRect.
-GRADUAL_TOP_TO_BOTTOM = 1
-GRADUAL_LEFT_TO_RIGHT = 2
+GRADUAL_TOP_TO_BOTTOM = 1  # the first row has colorFrom
+GRADUAL_LEFT_TO_RIGHT = 2  # the first column has colorFrom
 
 # Draw styles.
 DRAW_FILL = 0  # inside, by the non-zero rule
@@ -233,38 +233,38 @@ BLEND_SOURCE_ATOP = 8  # S d + D(1 - s)
 BLEND_DESTINATION_ATOP = 9  # S(1 - d) + D s
 BLEND_XOR = 10  # S(1 - d) + D(1 - s)
 BLEND_PLUS = 11  # S + D, at most 1
-BLEND_MULTIPLY = 12
-BLEND_SCREEN = 13
-BLEND_OVERLAY = 14
-BLEND_DARKEN = 15
-BLEND_LIGHTEN = 16
-BLEND_COLOR_DODGE = 17
-BLEND_COLOR_BURN = 18
-BLEND_HARD_LIGHT = 19
-BLEND_SOFT_LIGHT = 20
-BLEND_DIFFERENCE = 21
-BLEND_EXCLUSION = 22
-BLEND_HUE = 23
-BLEND_SATURATION = 24
-BLEND_COLOR = 25
-BLEND_LUMINOSITY = 26
+BLEND_MULTIPLY = 12  # Multiply
+BLEND_SCREEN = 13  # Screen
+BLEND_OVERLAY = 14  # Overlay
+BLEND_DARKEN = 15  # Darken
+BLEND_LIGHTEN = 16  # Lighten
+BLEND_COLOR_DODGE = 17  # ColorDodge
+BLEND_COLOR_BURN = 18  # ColorBurn
+BLEND_HARD_LIGHT = 19  # HardLight
+BLEND_SOFT_LIGHT = 20  # SoftLight
+BLEND_DIFFERENCE = 21  # Difference
+BLEND_EXCLUSION = 22  # Exclusion
+BLEND_HUE = 23  # Hue
+BLEND_SATURATION = 24  # Saturation
+BLEND_COLOR = 25  # Color
+BLEND_LUMINOSITY = 26  # Luminosity
 
 # Ends of open strokes.
-CAP_BUTT = 0
-CAP_ROUND = 1
-CAP_SQUARE = 2
+CAP_BUTT = 0  # at the end point
+CAP_ROUND = 1  # with half a disc beyond it
+CAP_SQUARE = 2  # half a stroke width beyond it
 
 # Corners of strokes. A miter longer than 10 stroke widths becomes a bevel.
-JOIN_MITER = 0
-JOIN_ROUND = 1
-JOIN_BEVEL = 2
+JOIN_MITER = 0  # pointed
+JOIN_ROUND = 1  # rounded by a disc
+JOIN_BEVEL = 2  # cut off
 
 # Dash styles: a dash is 3 stroke widths long, dots and gaps 1.
-DASH_SOLID = 0
-DASH_DASH = 1
-DASH_DOT = 2
-DASH_DASH_DOT = 3
-DASH_DASH_DOT_DOT = 4
+DASH_SOLID = 0  # no gaps
+DASH_DASH = 1  # dashes
+DASH_DOT = 2  # dots
+DASH_DASH_DOT = 3  # a dash and a dot by turns
+DASH_DASH_DOT_DOT = 4  # a dash and two dots by turns
 
 # What ShuffleBitmap moves between the channels.
 SHUFFLE_ALPHA_TO_GRAY = 1  # blue, green and red become the alpha

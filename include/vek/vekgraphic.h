@@ -47,13 +47,27 @@ enum {
 };
 
 /** How an open figure ends under a stroke. */
-enum { VEK_CAP_BUTT = 0, VEK_CAP_ROUND = 1, VEK_CAP_SQUARE = 2 };
+enum {
+    VEK_CAP_BUTT = 0,  /**< at the end point */
+    VEK_CAP_ROUND = 1, /**< with half a disc beyond it */
+    VEK_CAP_SQUARE = 2 /**< half a stroke width beyond it */
+};
 
 /** How a stroke turns a corner. A miter longer than 10 stroke widths becomes a bevel. */
-enum { VEK_JOIN_MITER = 0, VEK_JOIN_ROUND = 1, VEK_JOIN_BEVEL = 2 };
+enum {
+    VEK_JOIN_MITER = 0, /**< pointed */
+    VEK_JOIN_ROUND = 1, /**< rounded by a disc */
+    VEK_JOIN_BEVEL = 2  /**< cut off */
+};
 
 /** Dashes: a dash is 3, a dot 1 and a gap 1 stroke widths long, measured with the width at drawing time. */
-enum { VEK_DASH_SOLID = 0, VEK_DASH_DASH = 1, VEK_DASH_DOT = 2, VEK_DASH_DASH_DOT = 3, VEK_DASH_DASH_DOT_DOT = 4 };
+enum {
+    VEK_DASH_SOLID = 0,       /**< no gaps */
+    VEK_DASH_DASH = 1,        /**< dashes */
+    VEK_DASH_DOT = 2,         /**< dots */
+    VEK_DASH_DASH_DOT = 3,    /**< a dash and a dot by turns */
+    VEK_DASH_DASH_DOT_DOT = 4 /**< a dash and two dots by turns */
+};
 
 /** How a colour S (alpha s) meets the pixel D (alpha d), both premultiplied; R is the composed pixel.
  *  Coverage c of the shape times the blend value mix them: the pixel becomes D + (R - D) * c * value / 255. Shapes change
@@ -74,26 +88,29 @@ enum {
     VEK_BLEND_DESTINATION_ATOP = 9, /**< S(1 - d) + D s */
     VEK_BLEND_XOR = 10,             /**< S(1 - d) + D(1 - s) */
     VEK_BLEND_PLUS = 11,            /**< the smaller of S + D and 1; here S is scaled by coverage and value first */
-    VEK_BLEND_MULTIPLY = 12,
-    VEK_BLEND_SCREEN = 13,
-    VEK_BLEND_OVERLAY = 14,
-    VEK_BLEND_DARKEN = 15,
-    VEK_BLEND_LIGHTEN = 16,
-    VEK_BLEND_COLOR_DODGE = 17,
-    VEK_BLEND_COLOR_BURN = 18,
-    VEK_BLEND_HARD_LIGHT = 19,
-    VEK_BLEND_SOFT_LIGHT = 20,
-    VEK_BLEND_DIFFERENCE = 21,
-    VEK_BLEND_EXCLUSION = 22,
-    VEK_BLEND_HUE = 23,
-    VEK_BLEND_SATURATION = 24,
-    VEK_BLEND_COLOR = 25,
-    VEK_BLEND_LUMINOSITY = 26
+    VEK_BLEND_MULTIPLY = 12,        /**< Multiply */
+    VEK_BLEND_SCREEN = 13,          /**< Screen */
+    VEK_BLEND_OVERLAY = 14,         /**< Overlay */
+    VEK_BLEND_DARKEN = 15,          /**< Darken */
+    VEK_BLEND_LIGHTEN = 16,         /**< Lighten */
+    VEK_BLEND_COLOR_DODGE = 17,     /**< ColorDodge */
+    VEK_BLEND_COLOR_BURN = 18,      /**< ColorBurn */
+    VEK_BLEND_HARD_LIGHT = 19,      /**< HardLight */
+    VEK_BLEND_SOFT_LIGHT = 20,      /**< SoftLight */
+    VEK_BLEND_DIFFERENCE = 21,      /**< Difference */
+    VEK_BLEND_EXCLUSION = 22,       /**< Exclusion */
+    VEK_BLEND_HUE = 23,             /**< Hue */
+    VEK_BLEND_SATURATION = 24,      /**< Saturation */
+    VEK_BLEND_COLOR = 25,           /**< Color */
+    VEK_BLEND_LUMINOSITY = 26       /**< Luminosity */
 };
 
 /** The extent of a path. */
 typedef struct VekBounds {
-    float left, top, right, bottom;
+    float left;   /**< the smallest x */
+    float top;    /**< the smallest y */
+    float right;  /**< the largest x */
+    float bottom; /**< the largest y */
 } VekBounds;
 
 /* ------------------------------------------------------------------------------------------------------- bitmaps */
@@ -146,9 +163,8 @@ VEK_API int VEK_CALL vekCanvasClipRect(VekCanvas canvas, const RECT* rect);
 /** Moves the origin of later coordinates by (dx, dy), on top of earlier translations. The clip stays. */
 VEK_API int VEK_CALL vekCanvasTranslate(VekCanvas canvas, float dx, float dy);
 
-/* --------------------------------------------------------------------------------------------------------- style */
-
-/* Setters return 1, or 0 when the value is refused and the state stays as it was. */
+/* --------------------------------------------------------------------------------------------------------- style
+ * Setters return 1, or 0 when the value is refused and the state stays as it was. */
 
 /** One of VEK_DRAW_FILL..GRADIENT, other values are refused. At first VEK_DRAW_FILL. */
 VEK_API int VEK_CALL vekCanvasSetDrawStyle(VekCanvas canvas, int style);

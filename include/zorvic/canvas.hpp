@@ -10,26 +10,29 @@ namespace zorvic {
 
 // What DrawNineGrid may be told besides the margins.
 struct NineGridOptions {
-    const RECT* slice = nullptr;
-    Filter filter = Filter::bilinear;
-    BYTE alpha = 255;
-    bool fillCenter = false;
-    float destinationScale = 1;
-    double sourceScale = 1;
+    const RECT* slice = nullptr;       // texture pixels; nullptr, all of the texture
+    Filter filter = Filter::bilinear;  // sampling
+    BYTE alpha = 255;                  // opacity
+    bool fillCenter = false;           // one colour instead of the stretched centre
+    float destinationScale = 1;        // above 1: margins on the canvas are that much larger
+    double sourceScale = 1;            // scale of the picture itself: 2 for one made for twice the pixels
 };
 
 // The vector style of a canvas as it was: Save now, Restore at the end of the scope.
 class StyleScope {
 public:
+    // Saves the canvas's style.
     explicit StyleScope(HGCANVAS styled) : canvas(styled) { ::Save(canvas); }
     StyleScope(const StyleScope&) = delete;
     StyleScope& operator=(const StyleScope&) = delete;
+    // Restores it.
     ~StyleScope() { ::Restore(canvas); }
 
 private:
     HGCANVAS canvas;
 };
 
+// A canvas that somebody else owns, with everything that can be done to a canvas.
 class CanvasRef : public HandleRef<HGCANVAS> {
 public:
     using HandleRef::HandleRef;
@@ -241,6 +244,7 @@ protected:
     static void Delete(HGCANVAS canvas) { ::DeleteCanvas(canvas); }
 };
 
+// A canvas of one's own.
 class Canvas : public Owned<CanvasRef> {
 public:
     using Owned::Owned;

@@ -13,15 +13,22 @@ namespace zorvic {
 template <class H>
 class HandleRef {
 public:
+    // The handle's type in zorvic.h.
     using Handle = H;
+    // Empty.
     HandleRef() = default;
+    // Names an object without owning it.
     HandleRef(Handle borrowed) : handle(borrowed) {}
 
+    // The handle for the functions of zorvic.h. It stays where it is.
     Handle Get() const { return handle; }
+    // Whether it names an object.
     explicit operator bool() const { return handle != nullptr; }
+    // Whether both name the same object.
     friend bool operator==(const HandleRef&, const HandleRef&) = default;
 
 protected:
+    // NULL when empty.
     Handle handle = nullptr;
 };
 
@@ -29,10 +36,15 @@ protected:
 template <class Ref>
 class Owned : public Ref {
 public:
+    // The handle's type in zorvic.h.
     using Handle = typename Ref::Handle;
+    // Empty.
     Owned() = default;
+    // Takes the object over from its former owner.
     explicit Owned(Handle owned) : Ref(owned) {}
+    // Takes over what the other owns.
     Owned(Owned&& other) noexcept : Ref(other.Release()) {}
+    // Deletes its object and takes over the other's.
     Owned& operator=(Owned&& other) noexcept {
         Reset(other.Release());
         return *this;
@@ -45,6 +57,7 @@ public:
         Ref::operator=(Ref());
         return released;
     }
+    // Deletes its object and takes over another one, or none.
     void Reset(Handle owned = nullptr) {
         if (*this) Ref::Delete(Ref::Get());
         Ref::operator=(Ref(owned));

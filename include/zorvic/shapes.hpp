@@ -5,6 +5,7 @@
 
 namespace zorvic {
 
+// A path that somebody else owns.
 class PathRef : public HandleRef<HGPATH> {
 public:
     using HandleRef::HandleRef;
@@ -42,12 +43,14 @@ protected:
     static void Delete(HGPATH path) { ::PathDestroy(path); }
 };
 
+// A path of one's own.
 class Path : public Owned<PathRef> {
 public:
     using Owned::Owned;
     static Path Create() { return Path(::PathCreate()); }
 };
 
+// A gradient that somebody else owns.
 class GradientRef : public HandleRef<HGGRADIENT> {
 public:
     using HandleRef::HandleRef;
@@ -58,6 +61,7 @@ protected:
     static void Delete(HGGRADIENT gradient) { ::GradientDestroy(gradient); }
 };
 
+// A gradient of one's own.
 class Gradient : public Owned<GradientRef> {
 public:
     using Owned::Owned;

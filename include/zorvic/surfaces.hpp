@@ -16,13 +16,16 @@ class Texture;
 // when the surface cannot be locked; it has no rows then.
 class PixelLock {
 public:
+    // Locks an area in surface pixels; nullptr, all of the surface.
     explicit PixelLock(HGBITMAP surface, const RECT* area = nullptr)
         : bitmap(::LockBitmapBitsEx(surface, &info, area) ? surface : nullptr) {}
+    // Takes over the other's lock.
     PixelLock(PixelLock&& other) noexcept
         : info(std::exchange(other.info, {})),
           bitmap(std::exchange(other.bitmap, nullptr)),
           changeValue(other.changeValue),
           changed(other.changed) {}
+    // Ends its lock and takes over the other's.
     PixelLock& operator=(PixelLock&& other) noexcept {
         Unlock();
         info = std::exchange(other.info, {});
@@ -31,12 +34,18 @@ public:
         changed = other.changed;
         return *this;
     }
+    // Ends the lock.
     ~PixelLock() { Unlock(); }
 
+    // Whether the pixels are locked.
     explicit operator bool() const { return bitmap != nullptr; }
+    // Pixels in a row of the area.
     int Width() const { return info.bmWidth; }
+    // Rows of the area.
     int Height() const { return info.bmHeight; }
+    // 8, 24 or 32.
     int BitsPixel() const { return info.bmBitsPixel; }
+    // The record that the lock filled in.
     const BitmapLockInfo& Info() const { return info; }
 
     // Row y, 0 the uppermost, of as many pixels as the area is wide: DWORD for 32 bits, RGBTriple for 24, BYTE for 8.
@@ -55,6 +64,7 @@ public:
         changeValue = value;
         changed = 1;
     }
+    // Ends the lock before the end of the scope.
     void Unlock() {
         if (bitmap) ::UnlockBitmapBits(bitmap, changeValue, changed);
         bitmap = nullptr;
@@ -68,6 +78,7 @@ private:
     int changed = 0;
 };
 
+// A bitmap that somebody else owns, with everything that can be done to a bitmap.
 class BitmapRef : public HandleRef<HGBITMAP> {
 public:
     using HandleRef::HandleRef;
@@ -83,6 +94,7 @@ public:
         return bits;
     }
     HBITMAP GdiHandle() const { return ::GetBitmapHandle(handle); }
+    // The pixels of an area, for as long as the lock lives.
     [[nodiscard]] PixelLock Lock(const RECT* area = nullptr) const { return PixelLock(handle, area); }
 
     // The colour key, 0xRRGGBB, belongs to Operation::colorKey.
@@ -98,7 +110,9 @@ public:
     bool CopyFrom(BitmapRef src, const RECT* dstArea = nullptr, const RECT* srcArea = nullptr) const {
         return ::CopyBitmap(handle, dstArea, src.handle, srcArea) != 0;
     }
+    // A new bitmap in another size.
     [[nodiscard]] Bitmap Resized(int width, int height, Filter filter = Filter::bilinear) const;
+    // A new bitmap, turned or mirrored.
     [[nodiscard]] Bitmap Transformed(Transform transform) const;
     // The region is the caller's to delete.
     [[nodiscard]] HRGN CreateRgn(const RECT* area = nullptr) const {
@@ -119,6 +133,7 @@ protected:
     static void Delete(HGBITMAP bitmap) { ::DeleteBitmap(bitmap); }
 };
 
+// A bitmap of one's own.
 class Bitmap : public Owned<BitmapRef> {
 public:
     using Owned::Owned;
@@ -132,10 +147,14 @@ public:
 // A texture can do what a bitmap can, and is drawn as one where a bitmap is asked for.
 class TextureRef : public BitmapRef {
 public:
+    // The handle's type in zorvic.h.
     using Handle = HGTEXTURE;
+    // Empty.
     TextureRef() = default;
+    // Names a texture without owning it.
     TextureRef(HGTEXTURE borrowed) : BitmapRef(reinterpret_cast<HGBITMAP>(borrowed)) {}
 
+    // The handle for the functions of zorvic.h. It stays where it is.
     HGTEXTURE Get() const { return reinterpret_cast<HGTEXTURE>(handle); }
 
     // Of the current slice, or of the surface when there are no slices; Size() is always the surface's.
@@ -145,6 +164,7 @@ public:
         return size;
     }
     bool SetMode(const TextureMode& mode) const { return ::SetTextureMode(Get(), &mode) != 0; }
+    // The layout record from its parts.
     bool SetLayout(Layout layout, const RECT& margins = {}, DWORD argument = 0) const {
         return SetMode({static_cast<LONG>(layout), argument, margins});
     }
@@ -165,7 +185,9 @@ public:
         return slice;
     }
 
+    // A new texture in another size.
     [[nodiscard]] Texture Resized(int width, int height, Filter filter = Filter::bilinear) const;
+    // A new texture, turned or mirrored.
     [[nodiscard]] Texture Transformed(Transform transform) const;
 
     bool Gray() const { return ::GrayTexture(Get()) != 0; }
@@ -179,6 +201,7 @@ protected:
     static void Delete(HGTEXTURE texture) { ::DeleteTexture(texture); }
 };
 
+// A texture of one's own.
 class Texture : public Owned<TextureRef> {
 public:
     using Owned::Owned;

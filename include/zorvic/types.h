@@ -38,12 +38,16 @@ typedef struct BitmapLockInfo {
 
 /** A colour without alpha: the low three bytes of a word 0xAARRGGBB. */
 typedef struct RGBTriple {
-    BYTE blue, green, red;
+    BYTE blue;  /**< 0..255 */
+    BYTE green; /**< 0..255 */
+    BYTE red;   /**< 0..255 */
 } RGBTriple;
 
 /** The same in hue, saturation and lightness: the low three bytes of a word 0xAAHHSSLL, see ARGBtoAHSL. */
 typedef struct HSLTriple {
-    BYTE lightness, saturation, hue;
+    BYTE lightness;  /**< 0 black .. 255 white */
+    BYTE saturation; /**< 0 grey .. 255 */
+    BYTE hue;        /**< round the circle: 0 red, 85 green, 170 blue */
 } HSLTriple;
 
 /** How a texture is laid out in the rectangle it is drawn to. */
@@ -71,7 +75,10 @@ typedef struct TextureDrawParams {
 
 /** The extent of a path. */
 typedef struct PathBounds {
-    float left, top, right, bottom;
+    float left;   /**< the smallest x */
+    float top;    /**< the smallest y */
+    float right;  /**< the largest x */
+    float bottom; /**< the largest y */
 } PathBounds;
 
 #ifdef __cplusplus

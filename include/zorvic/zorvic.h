@@ -41,6 +41,8 @@
 #endif
 #define ZORVIC_CALL __cdecl
 
+/* ---------------------------------------------------------------------------------------- operations and filters */
+
 /** Operation words: how a source, or a fill's colour, meets the pixels that are there. */
 enum {
     ZORVIC_OP_COPY = 0x00000000,        /**< replaces them; below opacity 255 a source is blended as SOURCE_OVER */
@@ -54,10 +56,10 @@ enum {
 
 /** Sampling filters: how a source is read when it is drawn at another size. Any other value is bilinear too. */
 enum {
-    ZORVIC_FILTER_NEAREST = 0,
-    ZORVIC_FILTER_BILINEAR = 1,
-    ZORVIC_FILTER_BICUBIC = 4, /**< kernel chosen by SetStretchKernelMode */
-    ZORVIC_FILTER_AREA = 5     /**< mean of the covered source pixels; enlargements are bicubic */
+    ZORVIC_FILTER_NEAREST = 0,  /**< the pixel below the middle of the target's; edges stay hard */
+    ZORVIC_FILTER_BILINEAR = 1, /**< mean of 2 x 2 pixels, weighted by their distance */
+    ZORVIC_FILTER_BICUBIC = 4,  /**< kernel chosen by SetStretchKernelMode */
+    ZORVIC_FILTER_AREA = 5      /**< mean of the covered source pixels; enlargements are bicubic */
 };
 
 /* ------------------------------------------------------------------------------------------------------- bitmaps */
@@ -392,21 +394,21 @@ ZORVIC_API int ZORVIC_CALL DrawTextureEx2(HGCANVAS canvas, const RECT* dst, HGTE
 ZORVIC_API int ZORVIC_CALL DrawTextureEx3(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture,
                                           const TextureDrawParams* params, void* reserved);
 
-/* ----------------------------------------------------------------------------------------------- texture layouts */
-
-/* What DrawTexture does for a texture's layout mode, for hosts that choose the layout themselves. Arguments that all
+/* ----------------------------------------------------------------------------------------------- texture layouts
+ * What DrawTexture does for a texture's layout mode, for hosts that choose the layout themselves. Arguments that all
  * have in common:
- *   dst     logical pixels; each piece is clipped and drawn as DrawBitmapEx2 would draw it
- *   slice   texture pixels; NULL, all of the texture. Edges may be given in either order. A slice that is empty or
- *           reaches outside the texture makes the call return 0 without drawing
- *   filter  sampling, see ZORVIC_FILTER_NEAREST
- *   alpha   opacity 0..255, as for DrawBitmapEx
+ *   - dst: logical pixels; each piece is clipped and drawn as DrawBitmapEx2 would draw it
+ *   - slice: texture pixels; NULL, all of the texture. Edges may be given in either order. A slice that is empty or
+ *             reaches outside the texture makes the call return 0 without drawing
+ *   - filter: sampling, see ZORVIC_FILTER_NEAREST
+ *   - alpha: opacity 0..255, as for DrawBitmapEx
+ *
  * In C++ these five have C++ linkage: a host compiled by MSVC links them from zorvic32.lib, others (and C hosts) from
  * libzorvic32.dll.a, which knows them by both names. */
 
 /** Values of TextureMode::layout; any other value stretches. */
 enum {
-    ZORVIC_LAYOUT_STRETCH = 0,
+    ZORVIC_LAYOUT_STRETCH = 0,          /**< the slice fills the rectangle */
     ZORVIC_LAYOUT_NINE_GRID = 1,        /**< DrawTexture9Grid; the argument holds its edge flags */
     ZORVIC_LAYOUT_TILE = 2,             /**< DrawTextureTile; the argument holds its flags */
     ZORVIC_LAYOUT_CENTER = 3,           /**< DrawTextureCenter */
@@ -422,7 +424,12 @@ enum { ZORVIC_TILE_SCALED = 0x10 /**< tiles are drawn scaled */ };
 enum { ZORVIC_UNIFORM_CENTERED = 1 /**< the middle of the texture is shown */ };
 
 /** Edge flags of DrawTexture9Grid, to be combined. */
-enum { ZORVIC_EDGE_LEFT = 1, ZORVIC_EDGE_TOP = 2, ZORVIC_EDGE_RIGHT = 4, ZORVIC_EDGE_BOTTOM = 8 };
+enum {
+    ZORVIC_EDGE_LEFT = 1,  /**< the left margin */
+    ZORVIC_EDGE_TOP = 2,   /**< the top margin */
+    ZORVIC_EDGE_RIGHT = 4, /**< the right margin */
+    ZORVIC_EDGE_BOTTOM = 8 /**< the bottom margin */
+};
 
 /** Draws a slice as large as dst allows without distortion, in the middle of dst.
  *  \return 1; 0 for NULL or a bad slice */
@@ -539,7 +546,10 @@ ZORVIC_API int ZORVIC_CALL FillRectangleEx(HGCANVAS canvas, const RECT* rect, DW
 ZORVIC_API int ZORVIC_CALL FillRoundRectEx(HGCANVAS canvas, const RECT* rect, const POINT* corner, DWORD color);
 
 /** Directions of FillGradualRect. */
-enum { ZORVIC_GRADUAL_TOP_TO_BOTTOM = 1, ZORVIC_GRADUAL_LEFT_TO_RIGHT = 2 };
+enum {
+    ZORVIC_GRADUAL_TOP_TO_BOTTOM = 1, /**< the first row has colorFrom */
+    ZORVIC_GRADUAL_LEFT_TO_RIGHT = 2  /**< the first column has colorFrom */
+};
 
 /** Fills a rectangle with a gradient between two colours.
  *  \param colorFrom,colorTo  straight ARGB; when they are equal once premultiplied, this is FillSolidRect
@@ -549,9 +559,8 @@ enum { ZORVIC_GRADUAL_TOP_TO_BOTTOM = 1, ZORVIC_GRADUAL_LEFT_TO_RIGHT = 2 };
 ZORVIC_API int ZORVIC_CALL FillGradualRect(HGCANVAS canvas, DWORD colorFrom, DWORD colorTo, const RECT* rect,
                                            DWORD direction);
 
-/* ------------------------------------------------------------------------------------------------ vector drawing */
-
-/* Anti-aliased shapes, drawn by the vector backend (vekgraphic.dll) on canvases that have a surface. Coordinates are
+/* ------------------------------------------------------------------------------------------------ vector drawing
+ * Anti-aliased shapes, drawn by the vector backend (vekgraphic.dll) on canvases that have a surface. Coordinates are
  * floats in logical pixels, x right, y down; pixel (i, j) covers [i, i + 1) x [j, j + 1). Clip and origins apply. Every
  * shape returns 1, even if nothing was visible, and 0 for NULL, a canvas without a surface or numbers that are not
  * finite. Style belongs to the canvas and stays until it is changed or undone by Restore. */
@@ -625,21 +634,21 @@ enum {
     ZORVIC_BLEND_DESTINATION_ATOP = 9, /**< S(1 - d) + D s */
     ZORVIC_BLEND_XOR = 10,             /**< S(1 - d) + D(1 - s) */
     ZORVIC_BLEND_PLUS = 11,            /**< S + D, at most 1 */
-    ZORVIC_BLEND_MULTIPLY = 12,
-    ZORVIC_BLEND_SCREEN = 13,
-    ZORVIC_BLEND_OVERLAY = 14,
-    ZORVIC_BLEND_DARKEN = 15,
-    ZORVIC_BLEND_LIGHTEN = 16,
-    ZORVIC_BLEND_COLOR_DODGE = 17,
-    ZORVIC_BLEND_COLOR_BURN = 18,
-    ZORVIC_BLEND_HARD_LIGHT = 19,
-    ZORVIC_BLEND_SOFT_LIGHT = 20,
-    ZORVIC_BLEND_DIFFERENCE = 21,
-    ZORVIC_BLEND_EXCLUSION = 22,
-    ZORVIC_BLEND_HUE = 23,
-    ZORVIC_BLEND_SATURATION = 24,
-    ZORVIC_BLEND_COLOR = 25,
-    ZORVIC_BLEND_LUMINOSITY = 26
+    ZORVIC_BLEND_MULTIPLY = 12,        /**< Multiply */
+    ZORVIC_BLEND_SCREEN = 13,          /**< Screen */
+    ZORVIC_BLEND_OVERLAY = 14,         /**< Overlay */
+    ZORVIC_BLEND_DARKEN = 15,          /**< Darken */
+    ZORVIC_BLEND_LIGHTEN = 16,         /**< Lighten */
+    ZORVIC_BLEND_COLOR_DODGE = 17,     /**< ColorDodge */
+    ZORVIC_BLEND_COLOR_BURN = 18,      /**< ColorBurn */
+    ZORVIC_BLEND_HARD_LIGHT = 19,      /**< HardLight */
+    ZORVIC_BLEND_SOFT_LIGHT = 20,      /**< SoftLight */
+    ZORVIC_BLEND_DIFFERENCE = 21,      /**< Difference */
+    ZORVIC_BLEND_EXCLUSION = 22,       /**< Exclusion */
+    ZORVIC_BLEND_HUE = 23,             /**< Hue */
+    ZORVIC_BLEND_SATURATION = 24,      /**< Saturation */
+    ZORVIC_BLEND_COLOR = 25,           /**< Color */
+    ZORVIC_BLEND_LUMINOSITY = 26       /**< Luminosity */
 };
 
 /** How shapes meet the pixels, see ZORVIC_BLEND_SOURCE_OVER, which is set at first. Other values change nothing. */
@@ -655,13 +664,21 @@ ZORVIC_API void ZORVIC_CALL SetBlendValue(HGCANVAS canvas, int value);
 ZORVIC_API int ZORVIC_CALL GetBlendValue(HGCANVAS canvas);
 
 /** Ends of open strokes. */
-enum { ZORVIC_CAP_BUTT = 0, ZORVIC_CAP_ROUND = 1, ZORVIC_CAP_SQUARE = 2 };
+enum {
+    ZORVIC_CAP_BUTT = 0,  /**< at the end point */
+    ZORVIC_CAP_ROUND = 1, /**< with half a disc beyond it */
+    ZORVIC_CAP_SQUARE = 2 /**< half a stroke width beyond it */
+};
 
 /** How strokes end, see ZORVIC_CAP_BUTT, which is set at first. */
 ZORVIC_API void ZORVIC_CALL SetStrokeCap(HGCANVAS canvas, int cap);
 
 /** Corners of strokes. A miter longer than 10 stroke widths becomes a bevel. */
-enum { ZORVIC_JOIN_MITER = 0, ZORVIC_JOIN_ROUND = 1, ZORVIC_JOIN_BEVEL = 2 };
+enum {
+    ZORVIC_JOIN_MITER = 0, /**< pointed */
+    ZORVIC_JOIN_ROUND = 1, /**< rounded by a disc */
+    ZORVIC_JOIN_BEVEL = 2  /**< cut off */
+};
 
 /** How strokes turn corners, see ZORVIC_JOIN_MITER, which is set at first. */
 ZORVIC_API void ZORVIC_CALL SetStrokeJoin(HGCANVAS canvas, int join);
@@ -677,11 +694,11 @@ ZORVIC_API float ZORVIC_CALL GetStrokeWidth(HGCANVAS canvas);
 
 /** Dash styles: a dash is 3 stroke widths long, dots and gaps 1. */
 enum {
-    ZORVIC_DASH_SOLID = 0,
-    ZORVIC_DASH_DASH = 1,
-    ZORVIC_DASH_DOT = 2,
-    ZORVIC_DASH_DASH_DOT = 3,
-    ZORVIC_DASH_DASH_DOT_DOT = 4
+    ZORVIC_DASH_SOLID = 0,       /**< no gaps */
+    ZORVIC_DASH_DASH = 1,        /**< dashes */
+    ZORVIC_DASH_DOT = 2,         /**< dots */
+    ZORVIC_DASH_DASH_DOT = 3,    /**< a dash and a dot by turns */
+    ZORVIC_DASH_DASH_DOT_DOT = 4 /**< a dash and two dots by turns */
 };
 
 /** Dashes, see ZORVIC_DASH_SOLID, which is set at first. The later of a dash style and a dash pattern counts. */
@@ -692,9 +709,8 @@ ZORVIC_API void ZORVIC_CALL SetDashStyle(HGCANVAS canvas, BYTE style);
  *                  length, or of zeros only, changes nothing */
 ZORVIC_API void ZORVIC_CALL SetDashPattern(HGCANVAS canvas, const float* pattern, BYTE count);
 
-/* ------------------------------------------------------------------------------------------- paths and gradients */
-
-/* They belong to no canvas; coordinates are those of the canvas at drawing time. Building returns 1, and 0 for NULL or
+/* ------------------------------------------------------------------------------------------- paths and gradients
+ * They belong to no canvas; coordinates are those of the canvas at drawing time. Building returns 1, and 0 for NULL or
  * numbers that are not finite. */
 
 /** \return an empty path to be ended with PathDestroy; NULL when memory is short */
@@ -797,7 +813,7 @@ ZORVIC_API DWORD ZORVIC_CALL ARGBtoAHSL(DWORD argb);
 /** Converts it back, in single precision and truncated: a round trip may change a colour a little. */
 ZORVIC_API DWORD ZORVIC_CALL AHSLtoARGB(DWORD ahsl);
 
-/* The same without alpha. */
+/** The same without alpha. */
 ZORVIC_API HSLTriple ZORVIC_CALL RGBtoHSL(RGBTriple rgb);
 ZORVIC_API RGBTriple ZORVIC_CALL HSLtoRGB(HSLTriple hsl);
 
@@ -810,7 +826,7 @@ ZORVIC_API RGBTriple ZORVIC_CALL HSLtoRGB(HSLTriple hsl);
  *  \return the changed colour with its alpha */
 ZORVIC_API DWORD ZORVIC_CALL ARGBColorize(DWORD argb, float hue, float saturation, float lightness);
 
-/* The same for the other forms of a colour. */
+/** The same for the other forms of a colour. */
 ZORVIC_API RGBTriple ZORVIC_CALL RGBColorize(RGBTriple rgb, float hue, float saturation, float lightness);
 ZORVIC_API DWORD ZORVIC_CALL AHSLColorize(DWORD ahsl, float hue, float saturation, float lightness);
 ZORVIC_API HSLTriple ZORVIC_CALL HSLColorize(HSLTriple hsl, float hue, float saturation, float lightness);
