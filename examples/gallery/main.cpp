@@ -7,7 +7,7 @@
 #include <cstdio>
 
 #include "pages/pages.h"
-#include "wic.h"
+#include "support/picture_files.h"
 
 namespace {
 
@@ -38,11 +38,18 @@ constexpr Page pages[]{
     {L"23-outlines.png", OutlinesPage},
 };
 
+// Opaque, whatever the alpha of the bitmap.
+void WritePage(HGBITMAP page, const std::wstring& file) {
+    PngWriter png(file, SizeOf(page).cx, SizeOf(page).cy, PngWriter::Alpha::none);
+    png.WriteRows(page);
+    png.Finish();
+}
+
 void DrawPages(const std::wstring& folder, const std::vector<std::wstring>& files) {
     const Pictures pictures = LoadPictures(files);
     for (const Page& page : pages) {
         const Canvas canvas = page.draw(pictures).Compose();
-        WritePng(GetBitmap(canvas), folder + L"/" + page.file);
+        WritePage(GetBitmap(canvas), folder + L"/" + page.file);
         std::printf("%s\n", Utf8(page.file).c_str());
     }
 }

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "sample.h"
-#include "wic.h"
+#include "support/picture_files.h"
 
 namespace {
 
@@ -72,7 +72,7 @@ Pictures LoadPictures(const std::vector<std::wstring>& files) {
         (alpha || size.cx < 128 || size.cy < 128 ? pictures.sprites : pictures.photos)
             .push_back({std::move(name), std::move(bitmap)});
     };
-    for (const auto& file : files) add(file.substr(file.find_last_of(L"/\\") + 1), ReadPicture(file));
+    for (const auto& file : files) add(file.substr(file.find_last_of(L"/\\") + 1), Bitmap(ReadPicture(file).Release()));
     if (pictures.photos.empty()) add(L"sample by day", SampleLandscape(Daytime::day));
     if (pictures.photos.size() < 2) add(L"sample by night", SampleLandscape(Daytime::night));
     if (pictures.sprites.empty()) {
