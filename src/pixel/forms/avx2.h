@@ -166,6 +166,21 @@ struct Avx2 {
         columns[3] = {_mm256_unpackhi_epi64(right, rightBelow)};
     }
 
+    // Four pixels as pairs: a window of eight source pixels, where the left and the right ones stand in it, and their
+    // weights, 256 - tx and tx.
+    struct PairHalf {
+        __m256i places, weights;
+        int start;
+    };
+    static PairHalf MakeHalf(const int* columns, const std::uint32_t* fractions, int lastStart) {
+        const int start = columns[0] < lastStart ? columns[0] : lastStart;
+        const __m128i left = _mm_sub_epi32(LoadHalf(columns), _mm_set1_epi32(start));
+        const __m128i right = _mm_add_epi32(left, _mm_set1_epi32(1));
+        const __m128i tx = Sse2::Twice(LoadHalf(fractions)), rest = _mm_sub_epi16(_mm_set1_epi16(256), tx);
+        return {_mm256_inserti128_si256(_mm256_castsi128_si256(left), right, 1),
+                _mm256_inserti128_si256(_mm256_castsi128_si256(rest), tx, 1), start};
+    }
+
     static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {
         // Pixels p and p + 2 side by side, so that packing puts the four sums in order.
         const auto sum = [&](int p) {
@@ -309,6 +324,24 @@ inline Avx2 MultiplyBytes(Avx2 a, Avx2 b) {
 }
 inline Avx2 MixBytes(Avx2 a, Avx2::Weight k, Avx2 b, Avx2::Weight l) {
     return HighBytes(Widened(a) * k + Widened(b) * l);
+}
+
+// Weights of the lower row are ty - (tx x ty >> 8), which is (256 - tx) x ty + 255 >> 8, and tx x ty >> 8.
+inline Avx2 MixHalves(const Avx2::PairHalf (&halves)[2], const std::uint32_t* upper, const std::uint32_t* lower,
+                      Avx2::Weight ty) {
+    const __m256i up = _mm256_inserti128_si256(_mm256_setzero_si256(), _mm_set1_epi16(255), 0);
+    const auto mixed = [&](const Avx2::PairHalf& half) {
+        const Avx2 u{_mm256_permutevar8x32_epi32(Avx2::Load(upper + half.start).pixels, half.places)};
+        const Avx2 l{_mm256_permutevar8x32_epi32(Avx2::Load(lower + half.start).pixels, half.places)};
+        const __m256i product = _mm256_mullo_epi16(half.weights, ty.factors);
+        const Avx2::Weight below{_mm256_srli_epi16(_mm256_add_epi16(product, up), 8)};
+        return Widened(u) * (Avx2::Weight{half.weights} - below) + Widened(l) * below;
+    };
+    const Avx2::Wide first = mixed(halves[0]), last = mixed(halves[1]);
+    const auto sum = [](__m256i a, __m256i b) {
+        return _mm256_add_epi16(_mm256_permute2x128_si256(a, b, 0x20), _mm256_permute2x128_si256(a, b, 0x31));
+    };
+    return HighBytes(Avx2::Wide{sum(first.even, last.even), sum(first.odd, last.odd)});
 }
 
 // With t = byte x k + 128 the quotient is (t + (t >> 8)) >> 8.

@@ -91,5 +91,13 @@ concept LooksAtAlpha = requires(V v) {
     { IsTransparentBlack(v) } -> std::same_as<bool>;
 };
 
+// Forms that mix four taps of half a vector's pixels at once, left and right ones side by side.
+template <class V>
+concept MixesHalves = requires(const typename V::PairHalf (&halves)[2], const std::uint32_t* in, const int* columns,
+                               int number, typename V::Weight k) {
+    { V::MakeHalf(columns, in, number) } -> std::same_as<typename V::PairHalf>;
+    { MixHalves(halves, in, in, k) } -> std::same_as<V>;
+};
+
 }  // namespace
 }  // namespace zorvic

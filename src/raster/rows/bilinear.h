@@ -14,6 +14,14 @@
 namespace zorvic {
 namespace {
 
+// The halves of a block's vectors, for forms that mix them.
+template <class V>
+struct BlockHalves {};
+template <MixesHalves V>
+struct BlockHalves<V> {
+    typename V::PairHalf of[chunk / V::lanes][2];
+};
+
 template <Form V, SourceDepth depth>
 class BilinearRows {
 public:
@@ -41,6 +49,7 @@ public:
         for (; i % V::lanes != 0; ++i) fractions[i] = 0;
         columns.Prepare(n, src.bmWidth, 1, stepsX.Step());
         for (int k = 0; k < vectorCount; ++k) tx[k] = V::LoadWeights(fractions + k * V::lanes);
+        if constexpr (MixesHalves<V>) PrepareHalves(fractions);
     }
 
     const std::uint32_t* Fetch(int y, int, int n, std::uint32_t* out) {
@@ -54,6 +63,12 @@ public:
             RowCopy upperCopy, lowerCopy;
             const std::uint32_t* const u = columns.Readable(Pixels(upper), upperCopy);
             const std::uint32_t* const l = columns.Readable(Pixels(lower), lowerCopy);
+            if constexpr (MixesHalves<V>)
+                if (mixesHalves) {
+                    const auto* const pairs = halves.of;
+                    StoreVectors<V>(out, n, [=](int k) { return MixHalves(pairs[k], u, l, ty); });
+                    return out;
+                }
             WithReach<V>(columns.ReachOfAll(), [&]<Reach reach>() {
                 StoreVectors<V>(out, n,
                                 [&](int k) { return Mix(PairsAt<reach>(u, k), PairsAt<reach>(l, k), tx[k], ty); });
@@ -64,7 +79,7 @@ public:
 
 private:
     // Below this step rows are used often enough to be kept.
-    static constexpr std::int64_t rowsPayBelow = 0xC000;
+    static constexpr std::int64_t rowsPayBelow = 0x10000;
 
     using RowCopy = typename Columns<V, blockWidth>::RowCopy;
 
@@ -80,6 +95,19 @@ private:
     struct Row {
         Taps taps[chunk / V::lanes];
     };
+
+    // Windows of half a vector hold its pairs up to a step of two pixels.
+    void PrepareHalves(const std::uint32_t* fractions) {
+        constexpr int half = V::lanes / 2;
+        mixesHalves = readsPairs && !keepsRows && stepsX.Step() < 2 << 16;
+        if (!mixesHalves) return;
+        const int lastStart = src.bmWidth > V::lanes ? src.bmWidth - V::lanes : 0;
+        for (int i = 0; i < vectorCount * V::lanes; i += half) {
+            int places[std::size_t{half}];
+            for (int k = 0; k < half; ++k) places[k] = columns[i + k];
+            halves.of[i / V::lanes][i / half % 2] = V::MakeHalf(places, fractions + i, lastStart);
+        }
+    }
 
     const std::uint32_t* Pixels(int sourceRow) const {
         return reinterpret_cast<const std::uint32_t*>(SourceRow(src, sourceRow));
@@ -141,6 +169,8 @@ private:
     Columns<V, blockWidth> columns;
     typename V::Weight tx[chunk / V::lanes];
     RowRing<Row, 2> rows;
+    bool mixesHalves = false;
+    BlockHalves<V> halves;
 };
 
 }  // namespace
