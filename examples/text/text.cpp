@@ -3,6 +3,8 @@
 // leaves it and two ways to repair the alpha. Escape closes the window.
 #include <windows.h>
 
+#include <utility>
+
 #include "zorvic/zorvic.hpp"
 
 namespace {
