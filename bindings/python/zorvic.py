@@ -167,8 +167,8 @@ OP_DESTINATION_OVER = 0x06000000  # drawn behind them; scaled bilinearly; ignore
 
 # Sampling filters: how a source is read when it is drawn at another size. Any other value is
 # bilinear too.
-FILTER_NEAREST = 0  # the pixel below the middle of the target's; edges stay hard
-FILTER_BILINEAR = 1  # mean of 2 x 2 pixels, weighted by their distance
+FILTER_NEAREST = 0  # the source pixel at the scaled position, counted from the top left: hard edges
+FILTER_BILINEAR = 1  # mean of 2 x 2 source pixels, weighted by their distance
 FILTER_BICUBIC = 4  # kernel chosen by SetStretchKernelMode
 FILTER_AREA = 5  # mean of the covered source pixels; enlargements are bicubic
 

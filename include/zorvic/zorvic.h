@@ -56,8 +56,8 @@ enum {
 
 /** Sampling filters: how a source is read when it is drawn at another size. Any other value is bilinear too. */
 enum {
-    ZORVIC_FILTER_NEAREST = 0,  /**< the pixel below the middle of the target's; edges stay hard */
-    ZORVIC_FILTER_BILINEAR = 1, /**< mean of 2 x 2 pixels, weighted by their distance */
+    ZORVIC_FILTER_NEAREST = 0,  /**< the source pixel at the scaled position, counted from the top left: hard edges */
+    ZORVIC_FILTER_BILINEAR = 1, /**< mean of 2 x 2 source pixels, weighted by their distance */
     ZORVIC_FILTER_BICUBIC = 4,  /**< kernel chosen by SetStretchKernelMode */
     ZORVIC_FILTER_AREA = 5      /**< mean of the covered source pixels; enlargements are bicubic */
 };
