@@ -102,7 +102,9 @@ public:
         return color;
     }
 
-    // Bitmaps and textures. Without a rectangle a bitmap is drawn in its own size at (0, 0).
+    // Bitmaps and textures.
+
+    // In its own size, at (0, 0).
     bool DrawBitmap(BitmapRef bitmap, BYTE alpha = 255) const {
         return ::DrawBitmapEx(handle, nullptr, bitmap.Get(), ZORVIC_FILTER_NEAREST, alpha) != 0;
     }
@@ -126,6 +128,7 @@ public:
     }
 
     // Texture layouts, chosen by the call.
+
     bool DrawCentered(const RECT& dst, TextureRef texture, const RECT* slice = nullptr,
                       Filter filter = Filter::bilinear, BYTE alpha = 255) const {
         return ::DrawTextureCenter(handle, &dst, texture.Get(), slice, static_cast<DWORD>(filter), alpha) != 0;
@@ -152,6 +155,7 @@ public:
     }
 
     // Canvases, and the way to a window.
+
     bool Mix(const RECT& dst, CanvasRef src, const RECT& srcRect, BYTE amount) const {
         return ::MixCanvas(handle, &dst, src.handle, &srcRect, amount) != 0;
     }
@@ -167,6 +171,7 @@ public:
     }
 
     // Fills.
+
     bool FillSolidRect(DWORD color, const RECT& rect, Operation operation = Operation::sourceOver) const {
         return ::FillSolidRectEx(handle, color, &rect, static_cast<DWORD>(operation)) != 0;
     }
@@ -182,6 +187,7 @@ public:
     }
 
     // Outlines, by GDI's pens or by colours.
+
     bool OutlineRectangle(const RECT& rect, HPEN pen, HBRUSH brush) const {
         return ::GeoRectangle(handle, &rect, pen, brush) != 0;
     }
@@ -197,6 +203,7 @@ public:
     bool OutlineFocus(const RECT& rect, DWORD color) const { return ::GeoRectFocusEx(handle, &rect, color) != 0; }
 
     // Vector shapes, by the style below.
+
     bool DrawPoint(float x, float y) const { return ::DrawPoint(handle, x, y) != 0; }
     bool DrawLine(float x1, float y1, float x2, float y2) const { return ::DrawLine(handle, x1, y1, x2, y2) != 0; }
     bool DrawRectangle(float x, float y, float width, float height) const {
@@ -221,6 +228,7 @@ public:
     bool DrawPath(PathRef path) const { return ::DrawPath(handle, path.Get()) != 0; }
 
     // Vector style.
+
     [[nodiscard]] StyleScope SaveStyle() const { return StyleScope(handle); }
     void SetDrawStyle(DrawStyle style) const { ::SetDrawStyle(handle, static_cast<int>(style)); }
     void SetColor(DWORD color) const { ::SetColor(handle, color); }
