@@ -1,5 +1,5 @@
 // hello [--shaped] [PICTURE]: the smallest host with a window, the program to copy from. A picture (or soft discs, when
-// there is none) is kept in a bitmap, drawn on a canvas over a checkerboard by its alpha, and brought to the window in
+// there is none) is kept in a texture, drawn on a canvas over a checkerboard by its alpha, and brought to the window in
 // WM_PAINT. With --shaped the window has the shape of the picture and is dragged by it; Alt+F4 closes it.
 #include <windows.h>
 
@@ -8,95 +8,86 @@
 #include <wrl/client.h>
 
 #include <algorithm>
+#include <utility>
 
-#include "zorvic/zorvic.h"
+#include "zorvic/zorvic.hpp"
 
 namespace {
 
-HGBITMAP picture;  // 32-bit premultiplied pixels, made once
-HGCANVAS canvas;   // what the window shows, as large as its client area
-bool shaped;       // the window is as large as the picture and ends with its pixels
+zorvic::Texture picture;  // 32-bit premultiplied pixels, made once
+zorvic::Canvas canvas;    // what the window shows, as large as its client area
+bool shaped;              // the window is as large as the picture and ends with its pixels
 
-// Reads a picture file through WIC; NULL when that fails.
-HGBITMAP ReadPicture(const wchar_t* file) {
+// Reads a picture file through WIC; empty when that fails.
+zorvic::Texture ReadPicture(const wchar_t* file) {
     using Microsoft::WRL::ComPtr;
     ComPtr<IWICImagingFactory> factory;
     ComPtr<IWICBitmapDecoder> decoder;
     ComPtr<IWICBitmapFrameDecode> frame;
-    ComPtr<IWICBitmapSource> pixels;
+    ComPtr<IWICBitmapSource> source;
     UINT width = 0;
     UINT height = 0;
     if (FAILED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&factory))) ||
         FAILED(factory->CreateDecoderFromFilename(file, nullptr, GENERIC_READ, WICDecodeMetadataCacheOnDemand,
                                                   &decoder)) ||
         FAILED(decoder->GetFrame(0, &frame)) ||
-        FAILED(WICConvertBitmapSource(GUID_WICPixelFormat32bppPBGRA, frame.Get(), &pixels)) ||
-        FAILED(pixels->GetSize(&width, &height)))
-        return nullptr;
-
-    HGBITMAP bitmap = CreateMemBitmap(static_cast<int>(width), static_cast<int>(height));
-    BITMAP locked{};
-    if (!LockBitmapBits(bitmap, &locked, nullptr)) return nullptr;
-    const auto stride = static_cast<UINT>(locked.bmWidthBytes);
-    const HRESULT copied = pixels->CopyPixels(nullptr, stride, stride * height, static_cast<BYTE*>(locked.bmBits));
-    UnlockBitmapBits(bitmap, 0, 1);
-    if (SUCCEEDED(copied)) return bitmap;
-    DeleteBitmap(bitmap);
-    return nullptr;
+        FAILED(WICConvertBitmapSource(GUID_WICPixelFormat32bppPBGRA, frame.Get(), &source)) ||
+        FAILED(source->GetSize(&width, &height)))
+        return {};
+    zorvic::Texture texture = zorvic::Texture::Create(static_cast<int>(width), static_cast<int>(height));
+    const zorvic::PixelLock pixels = texture.Lock();
+    const auto stride = static_cast<UINT>(pixels.Info().bmWidthBytes);
+    if (!pixels ||
+        FAILED(source->CopyPixels(nullptr, stride, stride * height, static_cast<BYTE*>(pixels.Info().bmBits))))
+        return {};
+    return texture;
 }
 
-// Three soft discs, drawn on a canvas of their own that becomes a texture. Textures are bitmaps.
-HGBITMAP MakePicture() {
-    HGBITMAP disc = CreateMemBitmap(240, 240);
-    BITMAP locked{};
-    LockBitmapBits(disc, &locked, nullptr);
-    auto* pixel = static_cast<DWORD*>(locked.bmBits);
-    for (int y = -120; y < 120; ++y)
-        for (int x = -120; x < 120; ++x) {
+// Three soft discs, drawn on a canvas of their own that becomes a texture.
+zorvic::Texture MakePicture() {
+    zorvic::Bitmap disc = zorvic::Bitmap::Create(240, 240);
+    const zorvic::PixelLock pixels = disc.Lock();
+    for (int y = 0; y < 240; ++y) {
+        int x = -120;
+        for (DWORD& pixel : pixels.Row(y)) {
             // White, opaque in the middle and transparent at the rim; premultiplied, so that all four bytes are alike.
-            const int alpha = std::clamp((120 * 120 - x * x - y * y) / 20, 0, 255);
-            *pixel++ = static_cast<DWORD>(alpha) * 0x01010101u;
+            const int alpha = std::clamp((120 * 120 - x * x - (y - 120) * (y - 120)) / 20, 0, 255);
+            pixel = static_cast<DWORD>(alpha) * 0x01010101u;
+            ++x;
         }
-    UnlockBitmapBits(disc, 0, 1);
-
-    HGCANVAS drawing = CreateCanvas(400, 360, nullptr);
-    DrawModulation(drawing, 80, 0, disc, nullptr, 0xD0D04020);  // the disc times a colour, drawn over
-    DrawModulation(drawing, 0, 120, disc, nullptr, 0xD020A040);
-    DrawModulation(drawing, 160, 120, disc, nullptr, 0xD02050D0);
-    DeleteBitmap(disc);
-    SetCanvasFilter(drawing, ZORVIC_OP_SOURCE_OVER);  // or the texture would become opaque
-    return reinterpret_cast<HGBITMAP>(CanvasToTexture(drawing));
+    }
+    zorvic::Canvas drawing = zorvic::Canvas::Create(400, 360);
+    drawing.DrawModulation(80, 0, disc, 0xD0D04020);  // the disc times a colour, drawn over
+    drawing.DrawModulation(0, 120, disc, 0xD020A040);
+    drawing.DrawModulation(160, 120, disc, 0xD02050D0);
+    drawing.SetOperation(zorvic::Operation::sourceOver);  // or the texture would become opaque
+    return ToTexture(std::move(drawing));
 }
 
 // Draws the whole canvas anew for a client area of this size.
 void Draw(int width, int height) {
-    DeleteCanvas(canvas);
-    canvas = CreateCanvas(width, height, nullptr);
+    canvas = zorvic::Canvas::Create(width, height);
     constexpr int field = 16;
     for (int y = 0; y < height; y += field)
-        for (int x = 0; x < width; x += field) {
-            const RECT rect{x, y, x + field, y + field};
-            FillSolidRect(canvas, (x + y) / field % 2 ? 0xFFD8DEE6 : 0xFFFFFFFF, &rect);
-        }
+        for (int x = 0; x < width; x += field)
+            canvas.FillSolidRect((x + y) / field % 2 ? 0xFFD8DEE6 : 0xFFFFFFFF, {x, y, x + field, y + field});
 
     // In the middle, reduced when it is larger than the window.
-    SIZE size{};
-    GetBitmapSize(picture, &size);
+    const SIZE size = picture.Size();
     const double scale = std::min({1.0, double(width) / size.cx, double(height) / size.cy});
-    const RECT middle{static_cast<int>(width - size.cx * scale) / 2, static_cast<int>(height - size.cy * scale) / 2,
-                      static_cast<int>(width + size.cx * scale) / 2, static_cast<int>(height + size.cy * scale) / 2};
-    DrawBitmap(canvas, &middle, picture, ZORVIC_FILTER_NEAREST);
+    canvas.DrawBitmap({static_cast<int>(width - size.cx * scale) / 2, static_cast<int>(height - size.cy * scale) / 2,
+                       static_cast<int>(width + size.cx * scale) / 2, static_cast<int>(height + size.cy * scale) / 2},
+                      picture, zorvic::Filter::area);
     if (shaped) return;
 
-    // A translucent band, and text by GDI. GDI may spoil the alpha: a canvas that is not SOURCE_OVER does without it.
+    // A translucent band, and text by GDI. GDI may spoil the alpha: a canvas that is not sourceOver does without it.
     RECT band{0, height - 36, width, height};
-    FillSolidRect(canvas, 0xA0102040, &band);
+    canvas.FillSolidRect(0xA0102040, band);
     wchar_t text[40];
     wsprintfW(text, L"%ld x %ld pixels", size.cx, size.cy);
-    HDC dc = GetCanvasHandle(canvas);
-    SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, RGB(255, 255, 255));
-    DrawTextW(dc, text, -1, &band, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    SetBkMode(canvas.Dc(), TRANSPARENT);
+    SetTextColor(canvas.Dc(), RGB(255, 255, 255));
+    DrawTextW(canvas.Dc(), text, -1, &band, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
 LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -110,7 +101,7 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         case WM_PAINT: {
             PAINTSTRUCT paint{};
             HDC dc = BeginPaint(window, &paint);
-            GdiTransCanvas(dc, &paint.rcPaint, canvas, &paint.rcPaint, 255);
+            canvas.TransferTo(dc, paint.rcPaint, paint.rcPaint);
             EndPaint(window, &paint);
             return 0;
         }
@@ -135,7 +126,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int show) {
     picture = count > file ? ReadPicture(arguments[file]) : MakePicture();
     LocalFree(arguments);
     if (!picture) return MessageBoxW(nullptr, L"The picture cannot be read.", L"hello", MB_ICONERROR), 1;
-    SetBitmapFilter(picture, ZORVIC_OP_SOURCE_OVER);  // drawn by its alpha
+    picture.SetOperation(zorvic::Operation::sourceOver);  // drawn by its alpha
 
     WNDCLASSW windowClass{};
     windowClass.lpfnWndProc = WindowProc;
@@ -143,18 +134,14 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int show) {
     windowClass.hCursor = LoadCursor(nullptr, IDC_ARROW);
     windowClass.lpszClassName = L"hello";
     RegisterClassW(&windowClass);
-    SIZE size{640, 480};
-    if (shaped) GetBitmapSize(picture, &size);
+    const SIZE size = shaped ? picture.Size() : SIZE{640, 480};
     HWND window = CreateWindowW(L"hello", L"Hello, Zorvic", shaped ? WS_POPUP : WS_OVERLAPPEDWINDOW, CW_USEDEFAULT,
                                 CW_USEDEFAULT, size.cx, size.cy, nullptr, nullptr, instance, nullptr);
-    // The region becomes the window's.
-    if (shaped) SetWindowRgn(window, CreateTextureRgn(reinterpret_cast<HGTEXTURE>(picture), nullptr), FALSE);
+    if (shaped) SetWindowRgn(window, picture.CreateRgn(), FALSE);  // the region becomes the window's
     ShowWindow(window, show);
 
     MSG message{};
     while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
-    DeleteCanvas(canvas);
-    DeleteBitmap(picture);
     CoUninitialize();
     return static_cast<int>(message.wParam);
 }
