@@ -47,7 +47,7 @@ endif()
 # Warnings, for our own targets only.
 add_library(zorvic_warnings INTERFACE)
 if(MSVC)
-    target_compile_options(zorvic_warnings INTERFACE /W4 /wd5030 $<$<BOOL:${ZORVIC_WERROR}>:/WX>)
+    target_compile_options(zorvic_warnings INTERFACE /W4 /wd4068 /wd5030 $<$<BOOL:${ZORVIC_WERROR}>:/WX>)
 else()
     target_compile_options(zorvic_warnings INTERFACE
         -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wundef -Wvla -Wimplicit-fallthrough
