@@ -23,6 +23,9 @@
 #include <stdbool.h>
 #endif
 
+/* <windowsx.h> has a macro of this name. */
+#undef DeleteBitmap
+
 #ifdef __cplusplus
 #define ZORVIC_EXTERN extern "C"
 #else
