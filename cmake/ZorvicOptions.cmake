@@ -5,6 +5,8 @@ option(ZORVIC_BUILD_BENCH "Build zvbench, which measures the library" ON)
 set(ZORVIC_SANITIZE "" CACHE STRING "Sanitizers for every target, as in -fsanitize=")
 set(ZORVIC_GOOGLETEST_DIR "/usr/src/googletest" CACHE PATH "GoogleTest's sources, built together with the tests")
 
+math(EXPR ZORVIC_BITS "8 * ${CMAKE_SIZEOF_VOID_P}") # in the name of the DLL
+
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)

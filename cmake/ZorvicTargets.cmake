@@ -34,3 +34,39 @@ function(zorvic_vector_flags)
         endif()
     endforeach()
 endfunction()
+
+# zorvic_keep_debug_apart(TARGET): function names and line numbers of a DLL go into a file beside it that debuggers find.
+# For the objects that are linked into a DLL it has them made.
+function(zorvic_keep_debug_apart target)
+    if(NOT MINGW)
+        return()
+    endif()
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-g1>)
+    get_target_property(type ${target} TYPE)
+    if(NOT type STREQUAL "SHARED_LIBRARY")
+        return()
+    endif()
+    set(debug "$<TARGET_FILE_NAME:${target}>.debug")
+    add_custom_command(TARGET ${target} POST_BUILD
+        COMMAND "${CMAKE_OBJCOPY}" --only-keep-debug $<TARGET_FILE_NAME:${target}> ${debug}
+        COMMAND "${CMAKE_OBJCOPY}" --strip-all --add-gnu-debuglink=${debug} $<TARGET_FILE_NAME:${target}>
+        WORKING_DIRECTORY $<TARGET_FILE_DIR:${target}> VERBATIM)
+    install(FILES $<TARGET_FILE:${target}>.debug DESTINATION bin COMPONENT debug)
+endfunction()
+
+# zorvic_msvc_import_library(TARGET DEF): NAME.lib beside NAME.dll's own import library, for hosts that MSVC links.
+find_program(ZORVIC_LLVM_DLLTOOL NAMES llvm-dlltool llvm-dlltool-14)
+function(zorvic_msvc_import_library target def)
+    if(MSVC OR NOT ZORVIC_LLVM_DLLTOOL)
+        return()
+    endif()
+    set(machine i386)
+    if(ZORVIC_BITS EQUAL 64)
+        set(machine i386:x86-64)
+    endif()
+    set(library "$<TARGET_LINKER_FILE_DIR:${target}>/$<TARGET_FILE_BASE_NAME:${target}>.lib")
+    add_custom_command(TARGET ${target} POST_BUILD
+        COMMAND "${ZORVIC_LLVM_DLLTOOL}" -m ${machine} -d "${def}" -D $<TARGET_FILE_NAME:${target}> -l "${library}"
+        VERBATIM)
+    install(FILES "${library}" DESTINATION lib)
+endfunction()

@@ -79,7 +79,7 @@ class BITMAP(Structure):
 
 
 class BitmapLockInfo(Structure):
-    """A locked image: the platform's BITMAP, field for field, then its palette.
+    """A locked image: the platform's BITMAP, field for field, then its palette. 32 bytes; 48 in 64-bit programs.
     The pixels belong to the surface; they stay where they are until the surface is deleted or converted."""
 
     _fields_ = [

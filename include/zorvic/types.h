@@ -20,7 +20,7 @@ DECLARE_HANDLE(HGPATH);
 /** A gradient: colours along a line or between two circles, chosen by SetGradient. */
 DECLARE_HANDLE(HGGRADIENT);
 
-/** A locked image: the platform's BITMAP, field for field, then its palette.
+/** A locked image: the platform's BITMAP, field for field, then its palette. 32 bytes; 48 in 64-bit programs.
  *  The pixels belong to the surface; they stay where they are until the surface is deleted or converted. */
 typedef struct BitmapLockInfo {
     LONG bmType;       /**< 0 */
@@ -84,7 +84,8 @@ typedef struct PathBounds {
 #ifdef __cplusplus
 static_assert(offsetof(BitmapLockInfo, bmBits) == offsetof(BITMAP, bmBits), "starts like a BITMAP");
 static_assert(offsetof(BitmapLockInfo, colorCount) == sizeof(BITMAP), "the palette follows the BITMAP");
-static_assert(sizeof(BitmapLockInfo) == sizeof(BITMAP) + 2 * sizeof(void*), "no hidden padding");
+static_assert(sizeof(BitmapLockInfo) == sizeof(BITMAP) + 2 * sizeof(void*), "nothing follows the palette");
+static_assert(sizeof(BitmapLockInfo) == (sizeof(void*) == 8 ? 48 : 32), "the only record that grows with pointers");
 static_assert(sizeof(RGBTriple) == 3 && sizeof(HSLTriple) == 3, "passed and returned by value");
 static_assert(sizeof(TextureMode) == 24, "stored and returned verbatim");
 static_assert(sizeof(TextureDrawParams) == 56 && offsetof(TextureDrawParams, scale) == 16, "no hidden padding");

@@ -1,4 +1,4 @@
-// Exports of the bitmap family. Their texture names are aliases in zorvic32.def.
+// Exports of the bitmap family. Their texture names are aliases in the export lists.
 #include "surface/bitmap.h"
 
 #include "zorvic/zorvic.h"

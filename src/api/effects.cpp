@@ -1,5 +1,5 @@
 // Exports that change the pixels of bitmaps and textures, and the region of a texture's pixels. Names that stand for
-// the same function are aliases in zorvic32.def.
+// the same function are aliases in the export lists.
 #include "effects/apply.h"
 #include "effects/blur.h"
 #include "effects/pixels/colorize.h"

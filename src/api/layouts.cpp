@@ -1,4 +1,4 @@
-// Exports that draw a texture by a given layout. Their exported names are decorated, see zorvic32.def.
+// Exports that draw a texture by a given layout. Their exported names are decorated, see the export lists.
 #include "draw/layouts.h"
 
 #include "draw/nine_grid.h"

@@ -1,4 +1,4 @@
-// Exports that only textures have. Operations that they share with bitmaps are aliases in zorvic32.def.
+// Exports that only textures have. Operations that they share with bitmaps are aliases in the export lists.
 #include "surface/texture.h"
 
 #include "canvas/canvas.h"

@@ -3,21 +3,32 @@
 
 namespace {
 
-// Three bytes come back through the address that a host passes before all arguments, and are passed in the low bytes of
-// a stack word whose last byte means nothing: so do all compilers for 32-bit Windows that hosts are made with.
-using Convert = void*(__cdecl*)(BYTE* result, DWORD color);
-using Adjust = void*(__cdecl*)(BYTE* result, DWORD color, float hue, float saturation, float lightness);
+// How all compilers that hosts are made with pass three bytes. They come back through the address that a host passes
+// before all arguments. 32-bit hosts pass them in the low bytes of a stack word whose last byte means nothing, 64-bit
+// hosts by address.
+using Passed = std::conditional_t<sizeof(void*) == 8, const DWORD*, DWORD>;
+using Convert = void*(__cdecl*)(BYTE* result, Passed color);
+using Adjust = void*(__cdecl*)(BYTE* result, Passed color, float hue, float saturation, float lightness);
+
+template <class How>
+How Pass(const DWORD& word) {
+    if constexpr (std::is_pointer_v<How>)
+        return &word;
+    else
+        return word;
+}
 
 template <class Function>
 Function Find(const char* name) {
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"zorvic32.dll"), name)));
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(host::LoadedDll(), name)));
 }
 
 // The result as a word; the byte behind it must survive.
 template <class Function, class... Args>
 DWORD Call(const char* name, DWORD color, Args... args) {
     BYTE result[4] = {0, 0, 0, 0x5A};
-    EXPECT_EQ(Find<Function>(name)(result, 0xEE000000 | color, args...), result) << name;
+    const DWORD word = 0xEE000000 | color;
+    EXPECT_EQ(Find<Function>(name)(result, Pass<Passed>(word), args...), result) << name;
     EXPECT_EQ(result[3], 0x5A) << name;
     return static_cast<DWORD>(result[2] << 16 | result[1] << 8 | result[0]);
 }

@@ -78,7 +78,7 @@ TEST_P(AreaKernels, TruncateNearWholeNumbers) {
 
 std::vector<Parameter> AreaCalls() {
     std::vector<Parameter> calls = AllKernelCalls();
-    std::erase_if(calls, [](const Parameter& p) { return std::get<SlotCall>(p).RowSource() != Rows::area; });
+    std::erase_if(calls, [](const Parameter& p) { return std::get<SlotCall>(p).rows != Rows::area; });
     return calls;
 }
 

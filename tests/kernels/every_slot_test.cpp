@@ -81,7 +81,7 @@ TEST_P(EverySlot, DrawsEveryPairOfBytes) {
     for (std::size_t i = 0; i < src.Palette().size(); ++i) src.Palette()[i] = pixel(static_cast<int>(i));
     const std::uint32_t argument = SourceColor(src.Info(), 0, 77);
 
-    const bool solid = Slot().RowSource() == Rows::solid;
+    const bool solid = Slot().rows == Rows::solid;
     for (int byte = 0; byte < (solid ? 256 : 1); ++byte) {
         Image dst(256, solid ? 1 : 256);
         dst.Fill([&](int x, int) { return pixel(x); });

@@ -1,4 +1,4 @@
-// Every slot as one kind of call, and the kernel sets that are tested through it.
+// Every slot as one kind of call, and the kernel sets that are tested through it. zvcheck runs them too.
 #pragma once
 
 #include <functional>
@@ -39,12 +39,13 @@ inline constexpr NamedKernels kernelSets[] = {
 
 struct SlotCall {
     int slot;
+    Rows rows;
+    Op op;
     int bitsPixel;  // of the source
     bool takesPlacement;
     std::function<int(const KernelSet& kernels, const Job& job)> run;
 
-    Rows RowSource() const { return MeaningOf(slot).rows; }
-    bool IsScaled() const { return RowSource() != Rows::solid && RowSource() != Rows::unscaled; }
+    bool IsScaled() const { return rows != Rows::solid && rows != Rows::unscaled; }
     friend void PrintTo(const SlotCall& call, std::ostream* out) { *out << "slot " << call.slot; }
 };
 
@@ -66,7 +67,7 @@ template <class Kernel>
 void AppendCalls(std::vector<SlotCall>& calls, Slot<Kernel> slot, int bitsPixel = 32) {
     constexpr bool placed =
         std::is_same_v<Kernel, Placed> || std::is_same_v<Kernel, PlacedAlpha> || std::is_same_v<Kernel, PlacedKey>;
-    calls.push_back({slot.index, bitsPixel, placed,
+    calls.push_back({slot.index, slot.rows, slot.op, bitsPixel, placed,
                      [slot](const KernelSet& kernels, const Job& job) { return Call(kernels.At(slot), job); }});
 }
 
@@ -83,13 +84,17 @@ inline std::vector<SlotCall> AllSlotCalls() {
     return calls;
 }
 
-// Every slot of every set. The routed set has only those that the table takes from it.
+// The routed set has only the slots that the table takes from it.
+inline bool IsInSet(const NamedKernels& set, const SlotCall& call) {
+    return set.kernels != &routedKernels || StageOfSlot(call.slot, {}, Level::generic) == Stage::routed;
+}
+
+// Every slot of every set.
 inline std::vector<std::tuple<NamedKernels, SlotCall>> AllKernelCalls() {
     std::vector<std::tuple<NamedKernels, SlotCall>> calls;
     for (const NamedKernels& set : kernelSets)
         for (const SlotCall& call : AllSlotCalls())
-            if (set.kernels != &routedKernels || StageOfSlot(call.slot, {}, Level::generic) == Stage::routed)
-                calls.emplace_back(set, call);
+            if (IsInSet(set, call)) calls.emplace_back(set, call);
     return calls;
 }
 

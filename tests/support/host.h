@@ -1,4 +1,4 @@
-// What a host program of zorvic32.dll does all the time: owning handles, reading and writing pixels, filling surfaces
+// What a host program of the DLL does all the time: owning handles, reading and writing pixels, filling surfaces
 // with a pattern, and comparing a surface with a picture given as a function.
 #pragma once
 
@@ -24,6 +24,14 @@ using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, DeleteHandle>;
 using OwnedBitmap = Owned<HGBITMAP>;
 using OwnedTexture = Owned<HGTEXTURE>;
 using OwnedCanvas = Owned<HGCANVAS>;
+
+// The DLL, whichever of the two this program was linked with.
+inline HMODULE LoadedDll() {
+    HMODULE dll = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<LPCWSTR>(CreateCanvas), &dll);
+    return dll;
+}
 
 // Textures are bitmaps.
 inline HGBITMAP AsBitmap(HGBITMAP bitmap) { return bitmap; }

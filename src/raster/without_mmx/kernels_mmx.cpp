@@ -1,0 +1,7 @@
+// The MMX form's place in builds whose compiler has no MMX: the next form, which gives the same bytes.
+#include "pixel/forms/sse2.h"
+#include "raster/kernels.h"
+#include "raster/kernels_inl.h"
+
+constinit const zorvic::KernelSet zorvic::mmxKernels =
+    zorvic::MakeKernels<zorvic::Sse2, zorvic::WeightEncoding::packed16384>();
