@@ -108,7 +108,7 @@ bool Panel::Press(POINT at) {
         return true;
     }
     if (!Contains(place, at)) return false;
-    captured = At(at);
+    used = captured = At(at);
     Focus(captured);
     if (captured) captured->Press(at);
     return true;
@@ -129,6 +129,7 @@ bool Panel::Move(POINT at) {
     Control* const under = Contains(place, at) ? At(at) : nullptr;
     const bool changed = under != hot || tipOf;
     if (under != tipOf) tipOf = nullptr;
+    if (under != used) used = nullptr;
     hot = under;
     return changed;
 }
@@ -153,7 +154,7 @@ bool Panel::Leave() {
 }
 
 bool Panel::ShowTip() {
-    if (!hot || captured || list.owner || tipOf == hot || hot->tip.empty()) return false;
+    if (!hot || captured || list.owner || tipOf == hot || used == hot || hot->tip.empty()) return false;
     tipOf = hot;
     return true;
 }

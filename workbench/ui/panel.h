@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "document/choices.h"
@@ -41,8 +42,10 @@ public:
     // After the pointer has rested for a while.
     bool ShowTip();
 
-    bool HasCapture() const { return captured; }
-    bool HasFocus() const { return focus != nullptr; }
+    // The mouse was taken away in the middle of a drag.
+    void LoseMouse() {
+        if (std::exchange(captured, nullptr)) document.End();
+    }
     bool ListIsOpen() const { return list.owner != nullptr; }
     void DropFocus();
 
@@ -88,5 +91,6 @@ private:
     Control* captured = nullptr;
     Control* focus = nullptr;
     Control* tipOf = nullptr;
+    Control* used = nullptr;  // pressed since the pointer came to it: it needs no tip
     List list;
 };

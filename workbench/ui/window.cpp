@@ -7,6 +7,7 @@
 #include <shellapi.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "document/call.h"
 #include "support/picture_files.h"
@@ -120,6 +121,7 @@ LRESULT Window::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_CAPTURECHANGED:
             view.Cancel();
+            panel->LoseMouse();
             return 0;
         case WM_SETCURSOR:
             if (LOWORD(lParam) != HTCLIENT) break;
@@ -290,9 +292,10 @@ bool Window::CommandKey(WPARAM key) {
 
 void Window::Tick() {
     const DWORD now = GetTickCount();
-    if (!worker->IsBusy()) busySince = now;
-    if (worker->IsBusy() || (!said.empty() && now - saidAt < saidFor + 2 * tick))
-        InvalidateRect(handle, &status, FALSE);
+    const bool busy = worker->IsBusy();
+    if (!busy) busySince = now;
+    const bool stopped = std::exchange(wasBusy, busy) && !busy;
+    if (busy || stopped || (!said.empty() && now - saidAt < saidFor + 2 * tick)) InvalidateRect(handle, &status, FALSE);
     if (pointer.x >= 0 && now - pointerMoved > tipDelay && panel->ShowTip()) Redraw();
 }
 
@@ -377,7 +380,12 @@ void Window::Take(Opened& opened) {
 
 void Window::Take(Saved& saved) { Say(L"Saved " + FileName(saved.file) + L"."); }
 
-void Window::Take(Failure& what) { failure = std::move(what.message); }
+void Window::Take(Failure& what) {
+    failure = std::move(what.message);
+    // Messages of the picture files are made for the middle of a line.
+    CharUpperBuffW(failure.data(), failure.empty() ? 0 : 1);
+    if (!failure.ends_with(L'.')) failure += L'.';
+}
 
 void Window::Take(Frame& made) { view.SetFrame(std::move(made)); }
 

@@ -71,5 +71,5 @@ private:
     std::wstring said;     // stays for a moment
     DWORD saidAt = 0;
     DWORD busySince = 0;
-    bool fit = false;  // the next frame is the first of a picture
+    bool wasBusy = false;  // at the last tick
 };
