@@ -26,10 +26,6 @@ protected:
         LimitLevel(widestLevel);
     }
 
-    void SetUp() override {
-        if (std::get<NamedKernels>(GetParam()).form > BestLevel()) GTEST_SKIP() << "this processor has no such form";
-    }
-
     const KernelSet& Kernels() const { return *std::get<NamedKernels>(GetParam()).kernels; }
     const SlotCall& Slot() const { return std::get<SlotCall>(GetParam()); }
 

@@ -89,12 +89,12 @@ inline bool IsInSet(const NamedKernels& set, const SlotCall& call) {
     return set.kernels != &routedKernels || StageOfSlot(call.slot, {}, Level::generic) == Stage::routed;
 }
 
-// Every slot of every set.
+// Every slot of every set that this processor can run.
 inline std::vector<std::tuple<NamedKernels, SlotCall>> AllKernelCalls() {
     std::vector<std::tuple<NamedKernels, SlotCall>> calls;
     for (const NamedKernels& set : kernelSets)
         for (const SlotCall& call : AllSlotCalls())
-            if (IsInSet(set, call)) calls.emplace_back(set, call);
+            if (set.form <= BestLevel() && IsInSet(set, call)) calls.emplace_back(set, call);
     return calls;
 }
 

@@ -134,9 +134,9 @@ TEST(State, LayersAreComposedOnceWithTheirOpacity) {
     EXPECT_EQ(drawing.At(90, 50), 0U);
 }
 
+#ifndef _WIN64
 // As large as bitmaps get, with memory for its first rows only: 32 bits cannot address a layer of that size.
 TEST(State, ALayerWithoutMemoryIsOnlyASave) {
-    if (sizeof(void*) > 4) GTEST_SKIP() << "64 bits can";
     constexpr int most = 32767;
     Pixels rows(most, 3);
     const OwnedBitmap huge(vekBitmapCreateFromData(rows.words.data(), most, most, most * 4));
@@ -150,6 +150,7 @@ TEST(State, ALayerWithoutMemoryIsOnlyASave) {
     vekCanvasDrawPoint(drawing, 9, 1);
     EXPECT_EQ(rows.At(9, 1), 0xFF000000);
 }
+#endif
 
 TEST(State, RebindingKeepsStyleAndUsesTheNewPixels) {
     Drawing drawing(50, 50);
