@@ -15,7 +15,7 @@ constinit std::atomic<Level> levelInUse{Level::unresolved};
 
 template <class... Pointer>
 Status CheckRegion(SIZE size, Pointer... pointers) {
-    if (((pointers == nullptr) || ...)) return Status::nullPointer;
+    if ((!pointers || ...)) return Status::nullPointer;
     return size.cx < 1 || size.cy < 1 ? Status::badSize : Status::success;
 }
 

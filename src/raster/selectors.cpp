@@ -63,10 +63,10 @@ constexpr ScaledGroups<Placed, PlacedAlpha, PlacedKey> placed{
 // Calls act with the slot of the draw's kernel, whatever its type, or with std::monostate when nothing is to be drawn.
 template <class Groups, class Act>
 auto WithKernel(const DrawRequest& request, const Groups& groups, const Act& act) {
-    const auto [depth, sameSize, operation, filter, alpha] = request;
     const auto choose = [&](const auto& ofSameSize, const auto& scaled) {
-        return sameSize ? act(ofSameSize[depth]) : act(scaled[depth]);
+        return request.sameSize ? act(ofSameSize[request.depth]) : act(scaled[request.depth]);
     };
+    const auto& [depth, sameSize, operation, filter, alpha] = request;
     if (operation == Operation::multiply) return choose(slots::multiplySameSize, groups.multiply);
     if (operation == Operation::destinationOver) return choose(groups.destinationOverSameSize, groups.destinationOver);
     if (operation != Operation::sourceOver && alpha == 255) {

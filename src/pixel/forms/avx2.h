@@ -184,14 +184,14 @@ struct Avx2 {
     static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {
         // Pixels p and p + 2 side by side, so that packing puts the four sums in order.
         const auto sum = [&](int p) {
-            const __m256i pixels = _mm256_inserti128_si256(_mm256_castsi128_si256(LoadHalf(row + taps.first[p])),
-                                                           LoadHalf(row + taps.first[p + 2]), 1);
+            const __m256i taken = _mm256_inserti128_si256(_mm256_castsi128_si256(LoadHalf(row + taps.first[p])),
+                                                          LoadHalf(row + taps.first[p + 2]), 1);
             const __m256i pairs =
                 _mm256_broadcastsi128_si256(_mm_setr_epi8(0, -1, 4, -1, 1, -1, 5, -1, 2, -1, 6, -1, 3, -1, 7, -1));
             const __m256i lastPairs = _mm256_broadcastsi128_si256(
                 _mm_setr_epi8(8, -1, 12, -1, 9, -1, 13, -1, 10, -1, 14, -1, 11, -1, 15, -1));
-            const __m256i first = _mm256_madd_epi16(_mm256_shuffle_epi8(pixels, pairs), LoadAll(taps.weights[p][0]));
-            const __m256i last = _mm256_madd_epi16(_mm256_shuffle_epi8(pixels, lastPairs), LoadAll(taps.weights[p][1]));
+            const __m256i first = _mm256_madd_epi16(_mm256_shuffle_epi8(taken, pairs), LoadAll(taps.weights[p][0]));
+            const __m256i last = _mm256_madd_epi16(_mm256_shuffle_epi8(taken, lastPairs), LoadAll(taps.weights[p][1]));
             const __m256i all = _mm256_add_epi32(_mm256_add_epi32(first, last), _mm256_set1_epi32(horizontalRound));
             return _mm256_srai_epi32(all, horizontalShift);
         };

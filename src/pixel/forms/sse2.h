@@ -157,9 +157,9 @@ struct Sse2 {
     static void SumTaps(const std::uint32_t* row, const TapGroup& taps, std::int16_t* sums) {
         const auto sum = [&](int column) {
             const __m128i zero = _mm_setzero_si128();
-            const __m128i pixels = LoadAll(row + taps.first[column]);
-            const __m128i pairs = _mm_unpacklo_epi8(pixels, _mm_srli_si128(pixels, 4));
-            const __m128i lastPairs = _mm_unpacklo_epi8(_mm_srli_si128(pixels, 8), _mm_srli_si128(pixels, 12));
+            const __m128i taken = LoadAll(row + taps.first[column]);
+            const __m128i pairs = _mm_unpacklo_epi8(taken, _mm_srli_si128(taken, 4));
+            const __m128i lastPairs = _mm_unpacklo_epi8(_mm_srli_si128(taken, 8), _mm_srli_si128(taken, 12));
             const auto& weights = taps.weights[column % 2];
             const __m128i first = _mm_madd_epi16(_mm_unpacklo_epi8(pairs, zero), LoadAll(weights[0][column / 2]));
             const __m128i last = _mm_madd_epi16(_mm_unpacklo_epi8(lastPairs, zero), LoadAll(weights[1][column / 2]));
