@@ -3,9 +3,8 @@
 // Results are those of the exports of the same names.
 #pragma once
 
-#include <optional>
-
 #include "canvas/canvas.h"
+#include "draw/geometry/layouts.h"
 #include "surface/texture.h"
 
 namespace zorvic {
@@ -23,10 +22,6 @@ int DrawTextureTile(Canvas& canvas, const RECT& dst, const Texture& texture, con
 int DrawTextureTopTile(Canvas& canvas, const RECT& dst, const Texture& texture, const RECT* slice, const RECT& margins,
                        const TextureDrawParams& params);
 
-// What a slice shows of a texture, its edges in order; nothing if it is empty or leaves the texture.
-std::optional<RECT> ResolveSourceRect(const Texture& texture, const RECT* slice);
-
-void DrawPiece(const CanvasLock& target, const RECT& dst, const Texture& texture, const RECT& src,
-               const TextureDrawParams& params);
+void DrawPiece(const CanvasLock& target, const Piece& piece, const Texture& texture, const TextureDrawParams& params);
 
 }  // namespace zorvic

@@ -1,18 +1,10 @@
 // The nine-grid: corners keep their size, edges are stretched one way, the centre both ways or filled with one colour.
 #pragma once
 
-#include <array>
-
 #include "canvas/canvas.h"
 #include "surface/texture.h"
 
 namespace zorvic {
-
-// Pieces row by row; number 4 is the centre. Pieces for which there is no room are empty or reversed.
-using NineGrid = std::array<RECT, 9>;
-
-// Cuts a rectangle at its margins. Above 1, scale enlarges the margins.
-NineGrid SplitNineGrid(const RECT& rect, const RECT& margins, float scale);
 
 // slice: texture pixels, or null for all of them. Returns 0 for a slice that is empty or leaves the texture, else 1.
 int DrawTexture9Grid(Canvas& canvas, const RECT& dst, const Texture& texture, const RECT* slice, const RECT& margins,

@@ -14,6 +14,10 @@ struct RECT {
     LONG left, top, right, bottom;
 };
 
+struct POINT {
+    LONG x, y;
+};
+
 struct SIZE {
     LONG cx, cy;
 };
