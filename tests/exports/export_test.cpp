@@ -3,8 +3,8 @@
 
 #include "exports/c_host.h"
 #include "exports/null_cases.h"
-#include "exports/pe_image.h"
 #include "support/host.h"
+#include "support/pe_image.h"
 
 namespace {
 

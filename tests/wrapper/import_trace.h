@@ -9,26 +9,25 @@
 #include <string>
 #include <vector>
 
-#include "exports/pe_image.h"
+#include "support/import_table.h"
 
 class ImportTrace {
 public:
     ImportTrace() {
-        const auto slots = PeImage(GetModuleHandleW(nullptr)).ImportSlots("zorvic");
+        const auto imports = PeImage(GetModuleHandleW(nullptr)).ImportEntries("zorvic");
         thunks = static_cast<Thunk*>(
-            VirtualAlloc(nullptr, slots.size() * sizeof(Thunk), MEM_COMMIT | MEM_RESERVE, PAGE_EXECUTE_READWRITE));
-        for (const auto& [name, slot] : slots) {
+            VirtualAlloc(nullptr, imports.size() * sizeof(Thunk), MEM_COMMIT | MEM_RESERVE, PAGE_EXECUTE_READWRITE));
+        for (const auto& [name, entry] : imports) {
             Thunk& thunk = thunks[names.size()];
-            auto* address = static_cast<void**>(const_cast<void*>(slot));
-            thunk.target = *address;
+            thunk.target = *entry;
             thunk.Encode();
-            Set(address, &thunk);
+            Redirect(entry, &thunk);
             names.push_back(name);
-            addresses.push_back(address);
+            entries.push_back(entry);
         }
     }
     ~ImportTrace() {
-        for (std::size_t i = 0; i < names.size(); ++i) Set(addresses[i], thunks[i].target);
+        for (std::size_t i = 0; i < names.size(); ++i) Redirect(entries[i], thunks[i].target);
         VirtualFree(thunks, 0, MEM_RELEASE);
     }
     ImportTrace(const ImportTrace&) = delete;
@@ -66,16 +65,8 @@ private:
         }
     };
 
-    // Import tables are read-only in the programs of some linkers.
-    static void Set(void** slot, void* value) {
-        DWORD protection = 0;
-        VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &protection);
-        *slot = value;
-        VirtualProtect(slot, sizeof *slot, protection, &protection);
-    }
-
     std::vector<std::string> names;
-    std::vector<void**> addresses;
+    std::vector<void**> entries;
     Thunk* thunks;
 };
 

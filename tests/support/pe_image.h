@@ -33,19 +33,20 @@ public:
         return imports;
     }
 
-    // Where this image keeps the addresses of what it imports from a DLL whose name starts so. A name that is linked in
-    // two ways has two places.
-    std::multimap<std::string, const void*> ImportSlots(const std::string& dll) const {
-        std::multimap<std::string, const void*> slots;
-        for (const auto* entry = Directory<IMAGE_IMPORT_DESCRIPTOR>(IMAGE_DIRECTORY_ENTRY_IMPORT); entry->Name;
-             ++entry) {
-            if (!std::string(At<char>(entry->Name)).starts_with(dll)) continue;
-            const auto* names = At<IMAGE_THUNK_DATA>(entry->OriginalFirstThunk);
-            const auto* slot = At<IMAGE_THUNK_DATA>(entry->FirstThunk);
-            for (; names->u1.AddressOfData; ++names, ++slot)
-                slots.emplace(At<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(names->u1.AddressOfData))->Name, slot);
+    // Where this image keeps the addresses of what it imports from a DLL whose name starts so, by the function's name. A
+    // name that is linked in two ways has two places.
+    std::multimap<std::string, void**> ImportEntries(const std::string& dll = {}) const {
+        std::multimap<std::string, void**> entries;
+        for (const auto* import = Directory<IMAGE_IMPORT_DESCRIPTOR>(IMAGE_DIRECTORY_ENTRY_IMPORT); import->Name;
+             ++import) {
+            if (!std::string(At<char>(import->Name)).starts_with(dll)) continue;
+            const auto* names = At<IMAGE_THUNK_DATA>(import->OriginalFirstThunk);
+            const auto* entry = At<void*>(import->FirstThunk);
+            for (; names->u1.AddressOfData; ++names, ++entry)
+                entries.emplace(At<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(names->u1.AddressOfData))->Name,
+                                const_cast<void**>(entry));
         }
-        return slots;
+        return entries;
     }
 
 private:

@@ -1,0 +1,45 @@
+// What the library and its vector backend allocate, by way of their import tables: memory, GDI objects, device contexts
+// and, from the library's side, the backend's objects. It is counted, may be made to fail, and may be put before fences.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+
+// One at a time. What is allocated while it lives may be freed later.
+class Allocations {
+public:
+    // fences: every block of memory ends at an inaccessible page, and is inaccessible once it is freed.
+    explicit Allocations(bool fences = false);
+    ~Allocations();
+    Allocations(const Allocations&) = delete;
+    Allocations& operator=(const Allocations&) = delete;
+
+    // How much more there is of each kind than at the start: empty, or as "2 blocks, -1 paths". The backend keeps some
+    // blocks of its own for the next draws, so that a start comes best after a first round.
+    std::string Outstanding() const;
+    void Restart();
+
+    // The k-th allocation from now fails as it does when memory is short, and if andLater all after it. None for 0.
+    void FailAt(int k, bool andLater = false);
+    bool HasFailed() const;
+
+    enum class Kind {
+        block,
+        backendBlock,
+        gdiObject,
+        deviceContext,
+        backendBitmap,
+        backendCanvas,
+        path,
+        gradient,
+        none
+    };
+    static constexpr auto kinds = static_cast<std::size_t>(Kind::none);
+
+private:
+    using Counts = std::array<int, kinds>;
+    static Counts Living();
+
+    Counts before{};
+};
