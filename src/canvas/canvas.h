@@ -58,7 +58,8 @@ public:
     // Takes the surface out; the canvas is then only good for deletion.
     std::unique_ptr<Bitmap> TakeSurface() { return std::move(surface); }
 
-    // The backend's canvas, bound to the surface's present pixels; made on the first call. Null without a surface.
+    // The backend's canvas, bound to the surface's present pixels; made on the first call. Null without a surface, and
+    // when pixels to which it was bound have been lost.
     VekCanvas VectorCanvas();
 
     HWND window = nullptr;  // the host's
@@ -68,8 +69,9 @@ private:
     friend class CanvasLock;
     Canvas() = default;
 
-    // Binds the backend's canvas, if there is one, to the surface's pixels, if they moved.
-    void BindVectorCanvas();
+    // Binds the backend's canvas, if there is one, to the surface's pixels, if they moved. False when it is bound to
+    // pixels that are gone.
+    bool BindVectorCanvas();
 
     HDC Dc() const { return memoryDc ? memoryDc->Get() : hostDc; }  // null until there is one
 

@@ -8,19 +8,20 @@ void VectorCanvasDeleter::operator()(VekCanvas canvas) const { vekCanvasDestroy(
 VekCanvas Canvas::VectorCanvas() {
     if (!surface) return nullptr;
     if (!vectorCanvas) vectorCanvas.reset(vekCanvasCreate());
-    BindVectorCanvas();
-    return vectorCanvas.get();
+    return BindVectorCanvas() ? vectorCanvas.get() : nullptr;
 }
 
-void Canvas::BindVectorCanvas() {
-    if (!vectorCanvas) return;
+bool Canvas::BindVectorCanvas() {
+    if (!vectorCanvas) return true;
     const SurfaceLock pixels(*surface);
-    if (!pixels || pixels->bmBits == vectorPixels) return;
+    const void* const present = pixels ? pixels->bmBits : nullptr;
+    if (present == vectorPixels) return true;
+    if (!present) return false;  // the conversion failed, or the host has deleted the DIB section
     const VekBitmap bitmap =
         vekBitmapCreateFromData(pixels->bmBits, pixels->bmWidth, pixels->bmHeight, pixels->bmWidthBytes);
-    vekCanvasSetBitmap(vectorCanvas.get(), bitmap);
+    if (vekCanvasSetBitmap(vectorCanvas.get(), bitmap)) vectorPixels = present;
     vekBitmapDestroy(bitmap);
-    vectorPixels = pixels->bmBits;
+    return !vectorPixels || vectorPixels == present;
 }
 
 VectorFrame::VectorFrame(Canvas& canvas) : saved(canvas.VectorCanvas()) {
