@@ -21,10 +21,9 @@ public:
           top(placement.top) {}
 
     void PrepareColumns(int x, int n) {
-        // Positions stay below the source's width, so 32 bits hold them.
-        auto position = static_cast<std::uint32_t>((left + x) * stepX);
-        const auto step = static_cast<std::uint32_t>(stepX);
-        for (int i = 0; i < n; ++i, position += step) columns.Set(i, static_cast<int>(position >> 16));
+        // A device context's pixels may be more than 32 bits can count in 16.16.
+        std::int64_t position = (left + x) * stepX;
+        for (int i = 0; i < n; ++i, position += stepX) columns.Set(i, static_cast<int>(position >> 16));
         columns.Prepare(n, src.bmWidth, 0, stepX);
         fetchedRow = -1;
     }
