@@ -84,7 +84,7 @@ ZORVIC_API HGBITMAP ZORVIC_CALL CreateMemBitmap(int width, int height);
  *  \return a bitmap to be deleted with DeleteBitmap; NULL for a bad size or depth, or when memory is short */
 ZORVIC_API HGBITMAP ZORVIC_CALL CreateMemBitmapEx(int width, int height, int bitsPixel, int colorCount);
 
-/** Deletes a bitmap or texture and the pixels it owns. NULL is ignored. */
+/** Deletes a bitmap or texture and the pixels it owns. NULL is ignored, and so is the surface of a canvas. */
 ZORVIC_API void ZORVIC_CALL DeleteBitmap(HGBITMAP bitmap);
 
 /** Does nothing: the bitmap stays alive. Kept for hosts that call it; see DeleteBitmap. */
@@ -177,7 +177,8 @@ ZORVIC_API HGTEXTURE ZORVIC_CALL CreateTextureEx(int width, int height, int bits
  *  \return a texture to be deleted with DeleteTexture; NULL for NULL or a canvas without a surface */
 ZORVIC_API HGTEXTURE ZORVIC_CALL GetTexture(HGCANVAS canvas);
 
-/** Turns a bitmap into a texture: the pixels move, the bitmap is deleted and its handle ends. \return NULL for NULL */
+/** Turns a bitmap into a texture: the pixels move, the bitmap is deleted and its handle ends.
+ *  \return NULL for NULL and for the surface of a canvas */
 ZORVIC_API HGTEXTURE ZORVIC_CALL BitmapToTexture(HGBITMAP bitmap);
 
 /** Turns a canvas into a texture: the surface moves, the canvas is deleted and its handle ends. Unless the canvas's
@@ -910,8 +911,8 @@ ZORVIC_API HRGN ZORVIC_CALL CreateTextureRgn(HGTEXTURE texture, const RECT* area
 /* -------------------------------------------------------------------------------------- pixels in the host's memory
  * These work on memory that the host describes: bmWidth, bmHeight, bmWidthBytes (negative where rows run upwards),
  * bmBitsPixel and bmBits. What is called four bytes per pixel has them whatever bmBitsPixel says. A record describes as
- * many rows as it has, each as long as its row step (the depth, where the step is 0); a call that would touch a byte
- * outside does nothing. Where nothing else is said, the result is 1, or 0 for a NULL record, NULL bits, a width or
+ * many rows as it has, each as long as its row step (the depth, where the step is 0), and the last of them as long as its
+ * pixels; a call that would touch a byte outside does nothing. Where nothing else is said, the result is 1, or 0 for a NULL record, NULL bits, a width or
  * height below 1, and for what would reach outside. */
 
 /** Copies pixels. Nothing is stretched, and destinations of other depths get the source's bytes.

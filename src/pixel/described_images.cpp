@@ -31,18 +31,22 @@ struct Touched {
 };
 
 // Sums of products of 32-bit numbers and small ones: 64 bits hold them.
-bool LiesInside(const Touched& touched, const BITMAP& image) {
-    const std::int64_t step = image.bmWidthBytes, rowBytes = step == 0 ? PixelRowBytes(image) : std::abs(step);
+// rowPixels: the bytes of a row's pixels as the job takes them. A record whose rows are longer than its step is none.
+bool LiesInside(const Touched& touched, const BITMAP& image, std::int64_t rowPixels) {
+    const std::int64_t step = image.bmWidthBytes, pixelRow = PixelRowBytes(image);
+    if (step != 0 && std::abs(step) < pixelRow) return false;
+    const std::int64_t lastRow = step == 0 ? pixelRow : std::min(std::abs(step), rowPixels);
     const std::int64_t one = touched.first * step, other = (touched.first + touched.count - 1) * step;
     const std::int64_t toLastRow = (image.bmHeight - std::int64_t{1}) * step;
     return image.bmHeight > 0 && std::min(one, other) + touched.offset >= std::min<std::int64_t>(toLastRow, 0) &&
-           std::max(one, other) + touched.offset + touched.bytes <= std::max<std::int64_t>(toLastRow, 0) + rowBytes &&
-           std::abs(toLastRow) + rowBytes <= PTRDIFF_MAX;
+           std::max(one, other) + touched.offset + touched.bytes <= std::max<std::int64_t>(toLastRow, 0) + lastRow &&
+           std::abs(toLastRow) + lastRow <= PTRDIFF_MAX;
 }
 
 // All of a region of four-byte pixels that starts at the image's bits.
 bool Holds(const BITMAP& image, SIZE size) {
-    return LiesInside({0, size.cy, 0, std::int64_t{fourBytes} * size.cx}, image);
+    const std::int64_t rowPixels = std::max(PixelRowBytes(image), std::int64_t{fourBytes} * image.bmWidth);
+    return LiesInside({0, size.cy, 0, std::int64_t{fourBytes} * size.cx}, image, rowPixels);
 }
 
 // The whole image as one run of four-byte pixels. Its step may be anything, unless the depth is below 32 as well.
@@ -80,7 +84,7 @@ bool CopyImage(const BITMAP& src, const BITMAP& dst, const RECT* area) {
     if (width < 1 || height < 1 || !src.bmBits || !dst.bmBits) return false;
     const auto offset = [&](const BITMAP& image) { return std::int64_t{image.bmBitsPixel} * part.left / 4; };
     const auto holds = [&](const BITMAP& image) {
-        return LiesInside({part.top, height, offset(image), width * bytesPerPixel}, image);
+        return LiesInside({part.top, height, offset(image), width * bytesPerPixel}, image, PixelRowBytes(image));
     };
     if (!holds(src) || !holds(dst)) return false;
 

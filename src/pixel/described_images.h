@@ -1,7 +1,8 @@
 // The primitives on images that a caller describes in a BITMAP record: its size, row step, depth and bits.
 //
-// The record describes a block of memory: its rows, each as long as the step says, or the depth where the step is 0.
-// A job that would touch a byte outside one of its blocks does nothing and fails.
+// The record describes a block of memory: its rows, each as long as the step says, or the depth where the step is 0. The
+// last one ends with its pixels: the record may be that of an area whose rows are parts of longer ones. A job that would
+// touch a byte outside one of its blocks does nothing and fails.
 #pragma once
 
 #include "zorvic/types.h"

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 
 #include "raster/lookup_tables.h"
@@ -41,6 +42,14 @@ void MapRows24(const BitmapLockInfo& image, const Effect& effect) {
     }
 }
 
+// Rows of an image that a host describes may lie closer together than they are long, or be more than any memory holds.
+inline bool RowsLieApart(const BitmapLockInfo& image) {
+    const std::int64_t rowBytes = std::int64_t{image.bmWidth} * (image.bmBitsPixel / 8);
+    const std::int64_t step = std::abs(std::int64_t{image.bmWidthBytes});
+    if (step == 0 ? image.bmHeight > 1 : step < rowBytes) return false;
+    return step * image.bmHeight + rowBytes <= PTRDIFF_MAX;
+}
+
 // effect(words, n): changes words 0xAARRGGBB in place. 24-bit pixels come with alpha 255, and what becomes of it is
 // dropped. The indices of palette images stay, and so does the grey ramp: it is every such image's.
 template <Depths depths, class Effect>
@@ -48,7 +57,7 @@ void MapColors(const BitmapLockInfo& image, const Effect& effect) {
     if (image.bmBitsPixel == 8) {
         if (depths != Depths::argb32 && image.palette && image.palette != GreyPalette.data())
             effect(reinterpret_cast<std::uint32_t*>(image.palette), image.colorCount);
-    } else if (!image.bmBits || image.bmWidth < 1) {
+    } else if (!image.bmBits || image.bmWidth < 1 || !RowsLieApart(image)) {
         return;
     } else if (image.bmBitsPixel == 32) {
         MapRows32(image, effect);

@@ -85,35 +85,12 @@ TEST_P(BoxFilterSums, KeepFlatImages) {
         }
 }
 
-TEST(BoxFilter, RoundsHalvesUpAndLooksLeftFirst) {
-    const Image src = RowOf({0x00000001, 0x00000002, 0x00000007});
-    Image dst = RowOf({0, 0, 0});
-    ASSERT_NO_FATAL_FAILURE(Filter(dst, src, 2));
-    EXPECT_EQ(dst.Pixels(), (std::vector<std::uint32_t>{1, 2, 5}));  // 1, 1.5, 4.5
-}
-
 // Halves of the largest boxes lie left and right of any image.
 TEST(BoxFilter, MeansOfTheLargestBoxesAreThoseOfTheEdges) {
     const Image src = RowOf({0xFF000064, 0xFFFFFF00, 0xFF0000C8});
     Image dst = RowOf({0, 0, 0});
     ASSERT_NO_FATAL_FAILURE(Filter(dst, src, INT32_MAX));
     EXPECT_EQ(dst.Pixels(), std::vector<std::uint32_t>(3, 0xFF000096));
-}
-
-TEST(BoxFilter, RefusesNullPointersSizesAndBoxes) {
-    std::size_t bytes = 1;
-    for (const SIZE size : {SIZE{0, 1}, SIZE{1, 0}, SIZE{-1, -1}, SIZE{INT32_MIN, 1}})
-        EXPECT_EQ(BoxFilterBufferSize(size, 1, 4, &bytes), Status::badSize);
-    for (const int box : {0, -1, INT32_MIN}) EXPECT_EQ(BoxFilterBufferSize({1, 1}, box, 4, &bytes), Status::badSize);
-    EXPECT_EQ(BoxFilterBufferSize({1, 1}, 1, 0, &bytes), Status::badSize);
-    EXPECT_EQ(BoxFilterBufferSize({1, 1}, 1, 4, nullptr), Status::nullPointer);
-    EXPECT_EQ(bytes, 1U);
-    char pixel[4] = {}, result[4] = {};
-    std::uint64_t buffer[4];
-    EXPECT_EQ(BoxFilter({nullptr, 4}, {result, 4}, {1, 1}, 1, 4, buffer), Status::nullPointer);
-    EXPECT_EQ(BoxFilter({pixel, 4}, {result, 4}, {1, 1}, 1, 4, nullptr), Status::nullPointer);
-    EXPECT_EQ(BoxFilter({pixel, 4}, {result, 4}, {0, 1}, 1, 4, buffer), Status::badSize);
-    EXPECT_EQ(BoxFilter({pixel, 4}, {result, 4}, {1, 1}, 1, 2, buffer), Status::badSize);
 }
 
 BITMAP RecordOf(const Image& image) {
@@ -132,32 +109,6 @@ TEST(BlurImage, FiltersTwiceInPlace) {
             EXPECT_TRUE(BlurImage(RecordOf(image), box));
             EXPECT_TRUE(SameBytes(image, twice)) << bitsPixel << " bits, box " << box;
         }
-}
-
-TEST(BlurImage, LeavesAloneWhatItCannotBlur) {
-    Random random(3);
-    Image image(random, 8, 8);
-    const Image before = image;
-    struct {
-        const char* name;
-        LONG width, height, stride;
-        WORD bitsPixel;
-        int box;
-        bool wanted;
-    } const cases[] = {
-        {"16 bits", 8, 8, 32, 16, 3, true},         {"8 bits", 8, 8, 32, 8, 3, true},
-        {"no depth", 8, 8, 32, 0, 3, true},         {"width 0", 0, 8, 32, 32, 3, false},
-        {"height -8", 8, -8, 32, 32, 3, false},     {"box 0", 8, 8, 32, 32, 0, false},
-        {"16 bits, box 0", 8, 8, 32, 16, 0, false}, {"step below the row", 8, 8, 31, 32, 3, true},
-        {"step upwards", 8, 8, -32, 32, 3, true},   {"step 0", 8, 8, 0, 32, 3, true},
-    };
-    for (const auto& c : cases) {
-        const BITMAP record{0, c.width, c.height, c.stride, 0, c.bitsPixel, image.Info().bmBits};
-        EXPECT_EQ(BlurImage(record, c.box), c.wanted) << c.name;
-    }
-    EXPECT_TRUE(SameBytes(image, before));
-    EXPECT_FALSE(BlurImage({0, 8, 8, 32, 0, 32, nullptr}, 3));
-    EXPECT_TRUE(BlurImage({0, 8, 8, 32, 0, 16, nullptr}, 3));
 }
 
 }  // namespace
