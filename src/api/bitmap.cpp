@@ -21,7 +21,9 @@ HGBITMAP ZORVIC_CALL CreateMemBitmapEx(int width, int height, int bitsPixel, int
     return ToHandle(MakeSurface<Bitmap>(width, height, bitsPixel, colorCount, StoreKind::memory).release());
 }
 
-void ZORVIC_CALL DeleteBitmap(HGBITMAP bitmap) { delete FromHandle(bitmap); }
+void ZORVIC_CALL DeleteBitmap(HGBITMAP bitmap) {
+    if (bitmap && FromHandle(bitmap)->isHosts) delete FromHandle(bitmap);
+}
 
 void ZORVIC_CALL ReleaseBitmap(HGBITMAP) {}
 

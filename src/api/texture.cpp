@@ -21,7 +21,7 @@ HGTEXTURE ZORVIC_CALL GetTexture(HGCANVAS canvas) {
 }
 
 HGTEXTURE ZORVIC_CALL BitmapToTexture(HGBITMAP bitmap) {
-    if (!bitmap) return nullptr;
+    if (!bitmap || !FromHandle(bitmap)->isHosts) return nullptr;
     return ToHandle(zorvic::IntoTexture(std::unique_ptr<zorvic::Bitmap>(FromHandle(bitmap))).release());
 }
 

@@ -23,6 +23,7 @@ std::unique_ptr<Canvas> Canvas::Create(int width, int height, StoreKind kind, co
     if (!canvas) return nullptr;
     canvas->surface = MakeSurface<Bitmap>(width, height, 32, 0, kind);
     if (!canvas->surface) return nullptr;
+    canvas->surface->isHosts = false;
     canvas->clip = {0, 0, width, height};
     if (kind == StoreKind::system) canvas->MakeDc();
     if (const SurfaceLock pixels(*canvas->surface); pixels) KernelTable.At(slots::fillCopy)(*pixels, 0);

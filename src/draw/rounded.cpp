@@ -32,11 +32,13 @@ void DrawInto(VekCanvas mask, const Bitmap& texture) {
     const SurfaceLock pixels(texture);
     if (!pixels) return;
     if (pixels->bmBitsPixel == 32) return DrawInto(mask, *pixels);
-    const auto widened = MakeSurface<Bitmap>(pixels->bmWidth, pixels->bmHeight, 32, 0, StoreKind::memory);
-    if (!widened) return;
-    const SurfaceLock target(*widened);
-    KernelTable.At(slots::copySameSize, DepthOf(pixels->bmBitsPixel))(*target, *pixels);
-    DrawInto(mask, *target);
+    // Not a bitmap, of whose end the resource manager would be told in the middle of the draw.
+    MemoryPixelStore widened;
+    BITMAP description{0, pixels->bmWidth, pixels->bmHeight, 0, 1, 32, nullptr};
+    BitmapLockInfo target;
+    if (!widened.Create(&description, 0) || !widened.LockEx(&target, nullptr)) return;
+    KernelTable.At(slots::copySameSize, DepthOf(pixels->bmBitsPixel))(target, *pixels);
+    DrawInto(mask, target);
 }
 
 }  // namespace

@@ -31,7 +31,11 @@ std::shared_ptr<Store> MakeStore() {
 Bitmap::~Bitmap() { ReleaseStore(); }
 
 void Bitmap::ReleaseStore() {
-    if (store && RegisteredManager) RegisteredManager->OnRelease(ToHandle(this));
+    if (store && RegisteredManager) {
+        const bool former = std::exchange(isHosts, false);
+        RegisteredManager->OnRelease(ToHandle(this));
+        isHosts = former;
+    }
     Forget();
 }
 

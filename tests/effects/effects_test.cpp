@@ -1,6 +1,5 @@
 // Effects through the DLL: what each does to surfaces of every depth, its result, and what the resource manager hears.
 #include <algorithm>
-#include <thread>
 
 #include "support/recorder.h"
 
@@ -126,32 +125,6 @@ TEST(Effects, LightAndDarkSpreadByFourBlurs) {
         EXPECT_TRUE(Shows(bitmap.get(), Snapshot(wanted.get())));
         EXPECT_EQ(Pixels(bitmap.get()).Get(2, 6) != 0, light) << "reaches four pixels";
     }
-}
-
-// Draws and runs every effect, again and again on what the one before left.
-std::vector<DWORD> RunAll(std::uint32_t seed) {
-    const OwnedBitmap bitmap = MakeBitmap(61, 47, PremultipliedPattern{seed});
-    const OwnedCanvas canvas(CreateCanvas(61, 47, nullptr));
-    const RECT rect{-3, 2, 70, 40};
-    SetBitmapFilter(bitmap.get(), ZORVIC_OP_SOURCE_OVER);
-    for (const EffectCase& effect : effects) {
-        DrawBitmapEx(canvas.get(), &rect, bitmap.get(), ZORVIC_FILTER_BILINEAR, 200);
-        effect.run(bitmap.get());
-        effect.run(GetBitmap(canvas.get()));
-    }
-    return Snapshot(canvas.get()).words;
-}
-
-TEST(Effects, GiveTheSameOnFourThreads) {
-    constexpr std::size_t count = 4;
-    std::vector<DWORD> got[count];
-    std::vector<std::thread> threads;
-    for (std::size_t i = 0; i < count; ++i)
-        threads.emplace_back([&, i] {
-            for (int again = 0; again < 20; ++again) got[i] = RunAll(static_cast<std::uint32_t>(i));
-        });
-    for (std::thread& thread : threads) thread.join();
-    for (std::size_t i = 0; i < count; ++i) EXPECT_EQ(got[i], RunAll(static_cast<std::uint32_t>(i))) << "thread " << i;
 }
 
 }  // namespace

@@ -42,6 +42,7 @@ TEST(TextureRegion, IsWhatIsNotTransparentBlack) {
         {"everything", 32, 9, 7, [](int, int) { return true; }},
         {"one gap", 32, 3, 1, [](int x, int) { return x != 1; }},
         {"noise", 32, 61, 47, [](int x, int y) { return Pattern{}(x, y) % 3 != 0; }},
+        {"black without alpha", 24, 9, 7, [](int, int) { return true; }},
         {"noise in a palette", 8, 61, 47, [](int x, int y) { return Pattern{}(x, y) % 3 != 0; }},
         {"1999 runs", 32, 3998, 1, [](int x, int) { return x % 2 == 0; }},
         {"2000 runs", 32, 4000, 1, [](int x, int) { return x % 2 == 0; }},
@@ -52,7 +53,8 @@ TEST(TextureRegion, IsWhatIsNotTransparentBlack) {
         const OwnedBitmap bitmap = MakeBitmap(c.width, c.height, c.bitsPixel, 16);
         // Transparent white is kept; entry 3 of the palette is the only black one.
         Fill(bitmap.get(), [&](int x, int y) {
-            return c.kept(x, y) ? c.bitsPixel == 8 ? 5U : 0x00FFFFFFU : c.bitsPixel == 8 ? 3U : 0U;
+            if (c.bitsPixel == 8) return c.kept(x, y) ? 5U : 3U;
+            return c.bitsPixel == 32 && c.kept(x, y) ? 0x00FFFFFFU : 0U;
         });
         for (int i = 0; c.bitsPixel == 8 && i < 16; ++i) Pixels(bitmap.get())->palette[i] = i == 3 ? 0U : 0xFF000000U;
         EXPECT_TRUE(Same(RegionOf(bitmap.get()), RectRegion({0, 0, c.width, c.height}))) << "without an operation";
@@ -66,31 +68,18 @@ TEST(TextureRegion, IsWhatIsNotTransparentBlack) {
     }
 }
 
-TEST(TextureRegion, OfOtherDepthsIsEverythingOrRefused) {
-    const RECT all{0, 0, 7, 5};
-    for (const int bits : {24, 16}) {
-        const OwnedBitmap bitmap = MakeBitmap(7, 5, bits);
-        Fill(bitmap.get(), [](int, int) { return 0U; });
-        EXPECT_TRUE(Same(RegionOf(bitmap.get()), RectRegion(all))) << bits;
-        SetBitmapFilter(bitmap.get(), ZORVIC_OP_SOURCE_OVER);
-        EXPECT_EQ(RegionOf(bitmap.get()) != nullptr, bits == 24);
-        EXPECT_TRUE(bits == 16 || Same(RegionOf(bitmap.get()), RectRegion(all)));
-    }
-}
-
-TEST(TextureRegion, RefusesAreasThatAreNotInside) {
-    const OwnedBitmap bitmap = MakeBitmap(7, 5, Pattern{});
+TEST(TextureRegion, RefusesAreasThatAreNotInsideAndOtherDepths) {
+    const OwnedBitmap bitmap = MakeBitmap(7, 5, Pattern{}), other = MakeBitmap(7, 5, 16);
+    EXPECT_TRUE(Same(RegionOf(other.get()), RectRegion({0, 0, 7, 5})));
+    SetBitmapFilter(other.get(), ZORVIC_OP_SOURCE_OVER);
+    EXPECT_FALSE(RegionOf(other.get()));
     for (const DWORD operation : {ZORVIC_OP_COPY, ZORVIC_OP_SOURCE_OVER}) {
         SetBitmapFilter(bitmap.get(), operation);
-        for (const RECT& area : {RECT{-1, 0, 7, 5},
-                                 {0, -1, 7, 5},
-                                 {0, 0, 8, 5},
-                                 {0, 0, 7, 6},
-                                 {4, 0, 3, 5},
-                                 {0, 3, 7, 2},
-                                 {LONG_MIN, LONG_MIN, LONG_MAX, LONG_MAX},
-                                 {LONG_MAX, 0, LONG_MIN, 5}})
-            EXPECT_FALSE(RegionOf(bitmap.get(), &area)) << ToText(area);
+        const RECT outside[] = {{-1, 0, 7, 5}, {0, -1, 7, 5},
+                                {0, 0, 8, 5},  {0, 0, 7, 6},
+                                {4, 0, 3, 5},  {LONG_MIN, LONG_MIN, LONG_MAX, LONG_MAX},
+                                {0, 3, 7, 2},  {LONG_MAX, 0, LONG_MIN, 5}};
+        for (const RECT& area : outside) EXPECT_FALSE(RegionOf(bitmap.get(), &area)) << ToText(area);
         for (const RECT& area : {RECT{3, 0, 3, 5}, {0, 5, 7, 5}, {7, 5, 7, 5}})
             EXPECT_TRUE(Same(RegionOf(bitmap.get(), &area), RectRegion({}))) << ToText(area);
     }

@@ -1,9 +1,8 @@
-// Effects on locked images: every effect at every depth against byte-wise formulas, the 3 x 3 blur, and runs.
+// Effects on locked images: every effect at every depth against byte-wise formulas, and the 3 x 3 blur.
 #include <algorithm>
 
 #include "effects/pixels/box_blur.h"
 #include "effects/pixels/colorize.h"
-#include "effects/pixels/runs.h"
 #include "effects/pixels/tone.h"
 #include "raster/lookup_tables.h"
 #include "support/image.h"
@@ -151,15 +150,6 @@ TEST_P(ImageEffects, BoxBlurIsTheTruncatedMeanOfNinePixels) {
     }
 }
 
-TEST(BoxBlur, HasWorkedFigures) {
-    Image dot(3, 3), blurred(3, 3);
-    for (const auto& [pixel, wanted] : {std::pair(0xFFFFFFFFU, 0x1C1C1C1CU), {0x08090A12U, 0x00010102U}}) {
-        dot.Fill([p = pixel](int x, int y) { return x == 1 && y == 1 ? p : 0; });
-        BoxBlur(blurred.Info(), dot.Info());
-        EXPECT_EQ(blurred.Pixels(), std::vector<std::uint32_t>(9, wanted));
-    }
-}
-
 TEST(BoxBlur, KnowsOnly32BitImages) {
     Random random(1);
     for (const int bits : {8, 16, 24})
@@ -168,29 +158,6 @@ TEST(BoxBlur, KnowsOnly32BitImages) {
             const Image src(random, 5, 3, toOther ? 32 : bits), before = dst;
             BoxBlur(dst.Info(), src.Info());
             EXPECT_TRUE(SameBytes(dst, before)) << bits;
-        }
-}
-
-TEST_P(ImageEffects, RunsCoverWhatDiffersFromTheKey) {
-    Random random(1);
-    for (const int bits : {8, 24, 32})
-        for (int width = 0; width <= 70; ++width) {
-            Image image(random, width, 1, bits);
-            if (bits == 24) image.Fill([&](int, int) { return random.Below(2) ? 0x010203 : 0; });
-            const std::uint32_t key = bits == 24 ? 0xFF010203 : 0;
-            std::vector<bool> covered(static_cast<std::size_t>(width)), wanted;
-            for (int x = 0; x < width; ++x) {
-                const std::uint32_t pixel = image.At(x, 0);
-                wanted.push_back((bits == 8 ? image.Palette()[pixel] : bits == 24 ? pixel | 0xFF000000 : pixel) != key);
-            }
-            int end = -1;
-            for (auto run = NextRun(image.Info(), 0, 0, key); run.first < run.end;
-                 run = NextRun(image.Info(), 0, run.end, key)) {
-                ASSERT_GT(run.first, end) << "runs do not touch";
-                end = run.end;
-                std::fill(covered.begin() + run.first, covered.begin() + run.end, true);
-            }
-            ASSERT_EQ(covered, wanted) << bits << " bits";
         }
 }
 

@@ -50,14 +50,5 @@ TEST_P(MoveEveryPixel, ToItsPlaceAndTouchNoOtherByte) {
                 }
 }
 
-TEST(MovePixels, LeavesOtherDepthsAlone) {
-    Random random(3);
-    const Image source(random, 4, 3, 16);
-    Image image(4, 3, 16);
-    const Image before = image;
-    MovePixels(image.Info(), source.Info(), Transform::rotate180);
-    EXPECT_TRUE(SameBytes(image, before));
-}
-
 }  // namespace
 }  // namespace zorvic
