@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <mutex>
 
 #include "canvas.h"
 #include "gradient.h"
@@ -19,14 +18,10 @@ inline std::shared_ptr<Gradient>* ObjectOf(VekGradient handle) {
     return reinterpret_cast<std::shared_ptr<Gradient>*>(handle);
 }
 
-// Canvases of several threads take turns: what Cairo and pixman share between them is counted without atomics.
-inline std::recursive_mutex turns;
-
 // Calls call(object) and gives its bool, or true when it has none, as 1 or 0; 0 for a 0 handle and on any failure.
 template <class Handle, class Call>
 int With(Handle handle, Call call) noexcept {
     if (!handle) return 0;
-    const std::lock_guard turn(turns);
     try {
         auto& object = *ObjectOf(handle);
         if constexpr (std::is_void_v<decltype(call(object))>) {
@@ -43,18 +38,11 @@ int With(Handle handle, Call call) noexcept {
 // Gives make()'s owning pointer away as a handle; 0 on any failure.
 template <class Handle, class Make>
 Handle NewHandle(Make make) noexcept {
-    const std::lock_guard turn(turns);
     try {
         return reinterpret_cast<Handle>(make().release());
     } catch (...) {
         return nullptr;
     }
-}
-
-template <class Handle>
-void Destroy(Handle handle) noexcept {
-    const std::lock_guard turn(turns);
-    delete ObjectOf(handle);
 }
 
 inline Point PointOf(float x, float y) { return {static_cast<double>(x), static_cast<double>(y)}; }

@@ -15,13 +15,13 @@ VekBitmap vekBitmapCreateFromData(void* bits, int width, int height, int stride)
     });
 }
 
-void vekBitmapDestroy(VekBitmap bitmap) { Destroy(bitmap); }
+void vekBitmapDestroy(VekBitmap bitmap) { delete ObjectOf(bitmap); }
 
 VekCanvas vekCanvasCreate() {
     return NewHandle<VekCanvas>([] { return std::make_unique<Canvas>(); });
 }
 
-void vekCanvasDestroy(VekCanvas canvas) { Destroy(canvas); }
+void vekCanvasDestroy(VekCanvas canvas) { delete ObjectOf(canvas); }
 
 int vekCanvasSetBitmap(VekCanvas canvas, VekBitmap bitmap) {
     return With(canvas, [&](Canvas& c) { return With(bitmap, [&](Image& image) { c.SetBitmap(image); }); });

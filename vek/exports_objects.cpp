@@ -38,7 +38,7 @@ VekPath vekPathCreate() {
     return NewHandle<VekPath>([] { return std::make_unique<Path>(); });
 }
 
-void vekPathDestroy(VekPath path) { Destroy(path); }
+void vekPathDestroy(VekPath path) { delete ObjectOf(path); }
 
 int vekPathBegin(VekPath path) { return Build(path, &Path::Begin); }
 
@@ -122,4 +122,4 @@ int vekGradientAddColorStop(VekGradient gradient, float offset, DWORD color) {
     });
 }
 
-void vekGradientDestroy(VekGradient gradient) { Destroy(gradient); }
+void vekGradientDestroy(VekGradient gradient) { delete ObjectOf(gradient); }

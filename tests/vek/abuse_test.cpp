@@ -206,30 +206,39 @@ TEST(Abuse, LargePathsTakeBoundedTime) {
 }
 
 // Threads with a canvas each, sharing nothing but a gradient whose handle is gone.
-TEST(Abuse, ThreadsDrawTheSame) {
-    OwnedGradient gradient(vekGradientCreateLinear(0, 0, 60, 60));
+TEST(Abuse, ThreadsDrawWhatOneDraws) {
+    constexpr std::size_t threadCount = 16, seeds = 4;
+    constexpr int rounds = 8192;
+    OwnedGradient gradient(vekGradientCreateLinear(0, 0, 20, 20));
     vekGradientAddColorStop(gradient.get(), 0, 0xFFFF0000);
     vekGradientAddColorStop(gradient.get(), 1, 0x400000FF);
     std::vector<Drawing> drawings;
-    for (int i = 0; i < 4; ++i) vekCanvasSetGradient(drawings.emplace_back(64, 64), gradient.get());
+    for (std::size_t i = 0; i < threadCount + seeds; ++i)
+        vekCanvasSetGradient(drawings.emplace_back(24, 24), gradient.get());
     gradient.reset();
-    const auto draw = [](Drawing& drawing) {
-        std::mt19937 random(6);
+    // Sums the pixels up after every round.
+    std::vector<Pixel> sums(drawings.size());
+    const auto draw = [&](std::size_t index) {
+        Drawing& drawing = drawings[index];
+        std::mt19937 random(index % seeds);
         const OwnedPath path = MakePath();
-        vekPathAddCircle(path.get(), 30, 30, 25);
-        for (int i = 0; i < 1500; ++i) {
+        vekPathAddCircle(path.get(), 11, 11, 9);
+        for (int i = 0; i < rounds; ++i) {
             SetRandomStyle(drawing, random);
             vekCanvasSave(drawing);
-            vekCanvasTranslate(drawing, static_cast<float>(i % 7), 0);
+            vekCanvasTranslate(drawing, static_cast<float>(i % 3), 0);
+            if (i % 8 == 0) vekCanvasSaveLayer(drawing, nullptr, 200);
             vekCanvasDrawPath(drawing, path.get());
+            if (i % 8 == 0) vekCanvasRestore(drawing);
             vekCanvasRestore(drawing);
+            for (const Pixel pixel : drawing.words) sums[index] = sums[index] * 31 + pixel;
         }
     };
     std::vector<std::thread> threads;
-    for (std::size_t i = 1; i < drawings.size(); ++i) threads.emplace_back([&, i] { draw(drawings[i]); });
-    draw(drawings[0]);
+    for (std::size_t i = 0; i < threadCount; ++i) threads.emplace_back(draw, i);
     for (std::thread& thread : threads) thread.join();
-    for (const Drawing& drawing : drawings) EXPECT_EQ(drawing.words, drawings[0].words);
+    for (std::size_t i = threadCount; i < drawings.size(); ++i) draw(i);
+    for (std::size_t i = 0; i < threadCount; ++i) EXPECT_EQ(sums[i], sums[threadCount + i % seeds]) << "thread " << i;
 }
 
 TEST(Abuse, CyclesLeakNothing) {
