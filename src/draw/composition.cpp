@@ -1,10 +1,8 @@
 // Locking and choosing for the composition of canvases; pixels are the kernels' work, or GDI's.
 #include "draw/composition.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <limits>
 
 #include "raster/kernel_table.h"
 #include "raster/request.h"
@@ -15,29 +13,24 @@ namespace {
 
 bool HasAlpha(const Canvas& canvas) { return OperationOf(canvas.Filter()) == Operation::sourceOver; }
 
-// A rectangle as GDI takes it: a corner and extents.
-struct GdiRect {
-    explicit GdiRect(const RECT& rect)
-        : x(rect.left), y(rect.top), width(Saturate(WidthOf(rect))), height(Saturate(HeightOf(rect))) {}
+// GDI counts pixels in 28 bits with the sign; beyond that its own arithmetic may overflow, so it is not asked.
+bool GdiCounts(const RECT& rect) {
+    const auto isNear = [](LONG edge) { return edge >= -(1 << 27) && edge < 1 << 27; };
+    return isNear(rect.left) && isNear(rect.top) && isNear(rect.right) && isNear(rect.bottom);
+}
 
-    static int Saturate(std::int64_t extent) {
-        using Limits = std::numeric_limits<int>;
-        return static_cast<int>(std::clamp<std::int64_t>(extent, Limits::min(), Limits::max()));
-    }
-
-    int x, y, width, height;
-};
-
-int Stretch(HDC target, const GdiRect& dst, HDC source, const GdiRect& src) {
-    return StretchBlt(target, dst.x, dst.y, dst.width, dst.height, source, src.x, src.y, src.width, src.height,
-                      SRCCOPY);
+int Stretch(HDC target, const RECT& dst, HDC source, const RECT& src) {
+    if (!GdiCounts(dst) || !GdiCounts(src)) return 0;
+    return StretchBlt(target, dst.left, dst.top, dst.right - dst.left, dst.bottom - dst.top, source, src.left, src.top,
+                      src.right - src.left, src.bottom - src.top, SRCCOPY);
 }
 
 // format: AC_SRC_ALPHA to compose by the source's own alpha as well.
-int Blend(HDC target, const GdiRect& dst, HDC source, const GdiRect& src, BYTE alpha, BYTE format) {
+int Blend(HDC target, const RECT& dst, HDC source, const RECT& src, BYTE alpha, BYTE format) {
+    if (!GdiCounts(dst) || !GdiCounts(src)) return 0;
     const BLENDFUNCTION function{AC_SRC_OVER, 0, alpha, format};
-    return AlphaBlend(target, dst.x, dst.y, dst.width, dst.height, source, src.x, src.y, src.width, src.height,
-                      function);
+    return AlphaBlend(target, dst.left, dst.top, dst.right - dst.left, dst.bottom - dst.top, source, src.left, src.top,
+                      src.right - src.left, src.bottom - src.top, function);
 }
 
 }  // namespace
@@ -65,8 +58,7 @@ int BlendCanvas(Canvas& dst, const RECT& dstRect, Canvas& src, const RECT& srcRe
         // GDI clips by itself. The opacity of a source without alpha is ignored on purpose.
         const HDC to = dst.MakeDc();
         const HDC from = src.MakeDc();
-        return composed ? Blend(to, GdiRect(dstRect), from, GdiRect(srcRect), alpha, AC_SRC_ALPHA)
-                        : Stretch(to, GdiRect(dstRect), from, GdiRect(srcRect));
+        return composed ? Blend(to, dstRect, from, srcRect, alpha, AC_SRC_ALPHA) : Stretch(to, dstRect, from, srcRect);
     }
 
     const CanvasLock target(dst, visible);
@@ -113,9 +105,9 @@ int CanvasScroll(Canvas& canvas, int dx, int dy) {
 
 int GdiTransCanvas(HDC target, const RECT& dst, Canvas& canvas, const RECT& src, BYTE alpha) {
     const HDC source = canvas.MakeDc();
-    if (HasAlpha(canvas)) return Blend(target, GdiRect(dst), source, GdiRect(src), alpha, AC_SRC_ALPHA);
-    if (alpha == 255) return Stretch(target, GdiRect(dst), source, GdiRect(src));
-    return Blend(target, GdiRect(dst), source, GdiRect(src), alpha, 0);
+    if (HasAlpha(canvas)) return Blend(target, dst, source, src, alpha, AC_SRC_ALPHA);
+    if (alpha == 255) return Stretch(target, dst, source, src);
+    return Blend(target, dst, source, src, alpha, 0);
 }
 
 }  // namespace zorvic
