@@ -1,0 +1,38 @@
+// The time that calls take, without that of other programs.
+#pragma once
+
+#include <windows.h>
+
+#include <chrono>
+
+namespace calls {
+
+class Stopwatch {
+public:
+    static constexpr double tooLong = 1;  // s
+
+    // The system is asked for the processor's time only after a second has passed.
+    bool SaysTooLong() const {
+        using Seconds = std::chrono::duration<double>;
+        return Seconds(Clock::now() - start).count() > tooLong && ProcessorTime() - processorStart > tooLong;
+    }
+    // Forgets the time since the start, but not the processor's.
+    void Restart() { start = Clock::now(); }
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    static double ProcessorTime() {
+        FILETIME created, ended, kernel, user;
+        GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
+        const auto seconds = [](const FILETIME& time) {
+            return (static_cast<double>(time.dwHighDateTime) * 4294967296 + time.dwLowDateTime) * 1e-7;
+        };
+        return seconds(kernel) + seconds(user);
+    }
+
+    Clock::time_point start = Clock::now();
+    double processorStart = ProcessorTime();
+};
+
+}  // namespace calls
