@@ -67,7 +67,8 @@ Level CurrentLevel() {
 }
 
 Level LimitLevel(Level widest) {
-    const Level level = std::min(BestLevel(), widest);
+    static const Level best = BestLevel();  // asking takes microseconds on virtual machines
+    const Level level = std::min(best, widest);
     levelInUse.store(level, std::memory_order_relaxed);
     return level;
 }

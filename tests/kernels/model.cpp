@@ -180,12 +180,15 @@ std::uint32_t Mixed(Op op, std::uint32_t dst, std::uint32_t src, std::uint32_t a
     return Join(EachChannel([&](int i) { return d.of[i] * (256 - k) / 256 + s.of[i] * k / 256; }));
 }
 
-std::uint32_t Result(Rows rows, Op op, std::uint32_t dst, std::uint32_t src, std::uint32_t argument) {
-    const Channels d = Split(dst), s = Split(src);
-    const auto over = rows == bicubic ? OverOvershot : Over;
-    switch (op) {
+}  // namespace
+
+std::uint32_t ResultByModel(const SlotMeaning& meaning, std::uint32_t dst, std::uint32_t sample,
+                            std::uint32_t argument) {
+    const Channels d = Split(dst), s = Split(sample);
+    const auto over = meaning.rows == bicubic ? OverOvershot : Over;
+    switch (meaning.op) {
         case copy:
-            return src;
+            return sample;
         case sourceOver:
             return over(d, s);
         case constantAlpha:
@@ -193,13 +196,13 @@ std::uint32_t Result(Rows rows, Op op, std::uint32_t dst, std::uint32_t src, std
         case opaqueAlpha:
             return Over(d, Scaled({{s.of[blue], s.of[green], s.of[red], 255}}, argument % 256 + 1));
         case colorKey:
-            return src == argument ? dst : src;
+            return sample == argument ? dst : sample;
         case multiply:
             return Join(EachChannel([&](int i) { return (s.of[i] + 1) * d.of[i] / 256; }));
         case destinationOver:
             return dst + Join(Scaled(s, 256 - d.of[alpha]));
         case bitOr:
-            return dst | src;
+            return dst | sample;
         case grayWash: {
             const std::uint32_t g = (d.of[blue] + 2 * d.of[green] + d.of[red]) / 4 * s.of[alpha] / 256;
             Channels washed = EachChannel([&](int i) { return d.of[i] * (256 - d.of[alpha]) / 256 + g; });
@@ -208,14 +211,12 @@ std::uint32_t Result(Rows rows, Op op, std::uint32_t dst, std::uint32_t src, std
         }
         case crossFade:
         case mixColor:
-            return Mixed(op, dst, src, argument % 256);
+            return Mixed(meaning.op, dst, sample, argument % 256);
         case makeOpaque:
             return Join({{d.of[blue], d.of[green], d.of[red], 255}});
     }
     throw std::logic_error("no operation");
 }
-
-}  // namespace
 
 SlotMeaning MeaningOf(int slot) {
     return *std::ranges::find_if(meanings, [&](const SlotMeaning& m) { return m.first <= slot && slot <= m.last; });
@@ -234,8 +235,7 @@ void DrawByModel(int slot, const Job& job) {
             const std::int64_t column = job.placement.left + x, row = job.placement.top + y;
             const std::uint32_t sample =
                 meaning.rows == solid ? job.color : Sample(meaning.rows, job.src, job.placement, column, row);
-            WritePixelBytes(job.dst, x, y,
-                            Result(meaning.rows, meaning.op, ReadPixelBytes(job.dst, x, y), sample, job.argument));
+            WritePixelBytes(job.dst, x, y, ResultByModel(meaning, ReadPixelBytes(job.dst, x, y), sample, job.argument));
         }
 }
 

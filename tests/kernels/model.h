@@ -25,6 +25,10 @@ SlotMeaning MeaningOf(int slot);
 // Filters by the weights that the processor, or the one that is forced, has in memory.
 void DrawByModel(int slot, const Job& job);
 
+// What an operation makes of one pixel and a sample of such rows.
+std::uint32_t ResultByModel(const SlotMeaning& meaning, std::uint32_t dst, std::uint32_t sample,
+                            std::uint32_t argument);
+
 // A source pixel as the ARGB word that is drawn.
 std::uint32_t SourceColor(const BitmapLockInfo& src, std::int64_t x, std::int64_t y);
 

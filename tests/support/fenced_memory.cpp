@@ -12,15 +12,13 @@ namespace zorvic {
 
 namespace {
 
-constexpr std::size_t pageSize = 4096;  // x86
-
 #ifdef _WIN32
 std::byte* AllocatePages(std::size_t size) {
     return static_cast<std::byte*>(VirtualAlloc(nullptr, size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE));
 }
-bool MakeInaccessible(std::byte* page) {
+bool MakeInaccessible(std::byte* page, std::size_t size) {
     DWORD before;
-    return VirtualProtect(page, pageSize, PAGE_NOACCESS, &before) != 0;
+    return VirtualProtect(page, size, PAGE_NOACCESS, &before) != 0;
 }
 void FreePages(std::byte* pages, std::size_t) { VirtualFree(pages, 0, MEM_RELEASE); }
 #else
@@ -28,20 +26,21 @@ std::byte* AllocatePages(std::size_t size) {
     void* pages = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     return pages == MAP_FAILED ? nullptr : static_cast<std::byte*>(pages);
 }
-bool MakeInaccessible(std::byte* page) { return mprotect(page, pageSize, PROT_NONE) == 0; }
+bool MakeInaccessible(std::byte* page, std::size_t size) { return mprotect(page, size, PROT_NONE) == 0; }
 void FreePages(std::byte* pages, std::size_t size) { munmap(pages, size); }
 #endif
 
 }  // namespace
 
-FencedMemory::FencedMemory(std::size_t size) {
-    const std::size_t usable = (size + pageSize - 1) / pageSize * pageSize;
-    pagesSize = usable + pageSize;
-    pages = AllocatePages(pagesSize);
-    if (pages == nullptr || !MakeInaccessible(pages + usable)) throw std::bad_alloc();
-    bytes = {pages + usable - size, size};
+FencedBlocks::FencedBlocks(std::size_t count, std::size_t bytesOfEach)
+    : blockSize((bytesOfEach + pageSize - 1) / pageSize * pageSize),
+      allSize(count * Step() + pageSize),
+      pages(AllocatePages(allSize)) {
+    if (pages == nullptr) throw std::bad_alloc();
+    for (std::size_t i = 0; i <= count; ++i)
+        if (!MakeInaccessible(pages + i * Step(), pageSize)) throw std::bad_alloc();
 }
 
-FencedMemory::~FencedMemory() { FreePages(pages, pagesSize); }
+FencedBlocks::~FencedBlocks() { FreePages(pages, allSize); }
 
 }  // namespace zorvic

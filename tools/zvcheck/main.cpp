@@ -1,16 +1,16 @@
-// zvcheck: does every form of every kernel draw the same pixels on this processor? Prints a checksum for each slot and
-// "identical", or for each form the first slot that differs.
-//   zvcheck            the table and the forms of this processor
-//   zvcheck --table    the table alone, to be compared with another machine's
-//   zvcheck TABLE.txt  the forms of this processor and that table, as another machine printed it
-#include <algorithm>
+// zvcheck: does every form of every kernel draw the same pixels on this processor, and touch nothing else? Runs the same
+// numbered cases everywhere; see docs/64-bit.md.
+//   zvcheck                        1,000 cases of each slot; writes the table of checksums to standard output
+//   zvcheck TABLE.txt              compares with the table of another machine instead of printing one
+//   zvcheck --cases N [TABLE.txt]  so many cases; from 100,000 on the table has a second column
+//   zvcheck --slot S --case N      one case: what it is, and which form differs where
+#include <csignal>
 #include <cstdio>
-#include <fstream>
-#include <string>
-#include <vector>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
 
-#include "checksums.h"
-#include "raster/kernel_table.h"
+#include "table.h"
 
 #ifdef _WIN32
 #include <fcntl.h>
@@ -20,100 +20,98 @@
 namespace zorvic {
 namespace {
 
-using Table = std::vector<std::string>;
+// What runs, for the last words of a program that touched what it may not.
+const Checker* runningChecker;
+int runningSlot;
 
-const char* NameOf(Rows rows) {
-    constexpr const char* names[] = {"solid", "unscaled", "nearest", "bilinear", "bicubic", "area"};
-    return names[static_cast<int>(rows)];
+void OnForbiddenAccess(int) {
+    std::fprintf(stderr, "%s: slot %d, case %d: touches memory outside its images\n", runningChecker->RunningForm(),
+                 runningSlot, runningChecker->CaseNumber());
+    std::_Exit(1);
 }
 
-const char* NameOf(Op op) {
-    constexpr const char* names[] = {"copy",      "source-over", "constant-alpha",   "opaque-alpha",
-                                     "color-key", "multiply",    "destination-over", "or",
-                                     "gray-wash", "cross-fade",  "mix-color",        "make-opaque"};
-    return names[static_cast<int>(op)];
+std::unique_ptr<Checker> MakeChecker(const Subject& subject) {
+    auto checker = std::make_unique<Checker>(subject);
+    runningChecker = checker.get();
+    runningSlot = subject.slot.slot;
+    return checker;
 }
 
-std::string LineOf(const SlotCall& slot, std::uint64_t checksum) {
-    char line[80];
-    std::snprintf(line, sizeof line, "%3d  %2d  %-8s  %-16s  %08lx%08lx", slot.slot, slot.bitsPixel, NameOf(slot.rows),
-                  NameOf(slot.op), static_cast<unsigned long>(checksum >> 32),
-                  static_cast<unsigned long>(checksum & 0xFFFFFFFF));
-    return line;
+bool PrintFailures(const Checker& checker, int slot) {
+    for (const Failure& failure : checker.Failures())
+        std::fprintf(stderr, "%s: slot %d, case %d: %s\n", failure.form.c_str(), slot, failure.caseNumber,
+                     failure.what.c_str());
+    return checker.Failures().empty();
 }
 
-std::vector<SlotCall> SlotsInOrder() {
-    std::vector<SlotCall> slots = AllSlotCalls();
-    std::ranges::sort(slots, {}, &SlotCall::slot);
-    return slots;
-}
-
-Table TableOf(const std::vector<SlotCall>& slots, const KernelSet& kernels) {
-    Table table;
-    for (const SlotCall& slot : slots) table.push_back(LineOf(slot, ChecksumOf(slot, kernels)));
-    return table;
-}
-
-Table TableIn(const char* file) {
-    Table table;
-    std::ifstream in(file);
-    for (std::string line; std::getline(in, line);) {
-        if (line.ends_with('\r')) line.pop_back();
-        table.push_back(line);
-    }
-    return table;
-}
-
-// Says how a table compares with the one that all have to equal.
-bool Compare(const char* name, const Table& got, const Table& wanted) {
-    if (got == wanted) {
-        std::printf("%-16s identical\n", name);
-        return true;
-    }
-    std::size_t i = 0;
-    while (i < got.size() && i < wanted.size() && got[i] == wanted[i]) ++i;
-    std::printf("%-16s differs first at\n  %s\n  instead of\n  %s\n", name,
-                i < got.size() ? got[i].c_str() : "(the end)", i < wanted.size() ? wanted[i].c_str() : "(the end)");
-    return false;
-}
-
-// The set's own slots; those that the routed kernels leave out come from the wanted table.
-Table TableOf(const NamedKernels& set, const std::vector<SlotCall>& slots, const Table& wanted) {
-    LimitLevel(set.form);
-    Table table = wanted;
-    for (std::size_t i = 0; i < slots.size(); ++i)
-        if (IsInSet(set, slots[i])) table[i] = LineOf(slots[i], ChecksumOf(slots[i], *set.kernels));
-    LimitLevel(widestLevel);
-    return table;
-}
-
-bool CompareForms(const std::vector<SlotCall>& slots, const Table& wanted) {
-    bool same = true;
-    for (const NamedKernels& set : kernelSets) {
-        // Plain weights give other bicubic pixels than packed ones, on purpose: they are for processors without MMX.
-        if (!set.packedWeights) continue;
-        if (set.form > BestLevel())
-            std::printf("%-16s not on this processor\n", set.name);
-        else
-            same &= Compare(set.name, TableOf(set, slots, wanted), wanted);
-    }
-    return same & Compare("library's choice", TableOf(slots, KernelTable), wanted);
-}
-
-int Run(const char* argument) {
-    const std::vector<SlotCall> slots = SlotsInOrder();
-    const Table table = TableOf(slots, packedKernels);
-    const bool bare = argument != nullptr && std::string(argument) == "--table";
-    if (bare || argument == nullptr)
-        for (const std::string& line : table) std::printf("%s\n", line.c_str());
-    if (bare) return 0;
-
-    std::printf("\n");
-    bool same = CompareForms(slots, table);
-    if (argument != nullptr) same &= Compare(argument, table, TableIn(argument));
-    std::printf("(compared in packed bicubic weights, which all processors with MMX use)\n%s\n",
-                same ? "identical" : "different");
+int Verdict(bool same) {
+    std::fprintf(stderr, "%s\n", same ? "identical" : "different");
     return same ? 0 : 1;
+}
+
+int Replay(int slot, int caseNumber) {
+    bool same = true;
+    for (const Subject& subject : AllSubjects()) {
+        if (subject.slot.slot != slot) continue;
+        const auto checker = MakeChecker(subject);
+        std::printf("%s\n", DescriptionOf(checker->Prepare(caseNumber)).c_str());
+        checker->RunForms();
+        same &= PrintFailures(*checker, slot);
+    }
+    return Verdict(same);
+}
+
+void PrintForms() {
+    std::fprintf(stderr, "forms:");
+    for (const NamedKernels& set : kernelSets)
+        std::fprintf(stderr, " %s%s", set.name, set.form > BestLevel() ? " (not on this processor)" : "");
+    std::fprintf(stderr, "\n");
+}
+
+int CheckAll(int cases, const char* tableFile) {
+    PrintForms();
+    bool same = true;
+    Table table;
+    for (const Subject& subject : AllSubjects()) {
+        const auto checker = MakeChecker(subject);
+        std::vector<std::uint64_t> checksums;
+        for (int i = 0; i < cases; ++i) {
+            checker->Prepare(i);
+            checker->RunForms();
+            if (i + 1 == fewCases || i + 1 == manyCases) checksums.push_back(checker->Checksum());
+        }
+        table.push_back(LineOf(subject, checksums));
+        if (tableFile == nullptr) std::printf("%s\n", table.back().c_str());
+        same &= PrintFailures(*checker, subject.slot.slot);
+    }
+    if (tableFile != nullptr) same &= Compare(tableFile, table, TableIn(tableFile));
+    return Verdict(same);
+}
+
+// Takes an option and its number off the arguments.
+int TakeNumber(std::vector<const char*>& arguments, const char* option, int otherwise) {
+    for (std::size_t i = 0; i + 1 < arguments.size(); ++i) {
+        if (std::strcmp(arguments[i], option) != 0) continue;
+        const int number = std::atoi(arguments[i + 1]);
+        arguments.erase(arguments.begin() + static_cast<std::ptrdiff_t>(i),
+                        arguments.begin() + static_cast<std::ptrdiff_t>(i) + 2);
+        return number;
+    }
+    return otherwise;
+}
+
+int Run(std::vector<const char*> arguments) {
+    const int cases = TakeNumber(arguments, "--cases", fewCases);
+    const int slot = TakeNumber(arguments, "--slot", -1), caseNumber = TakeNumber(arguments, "--case", -1);
+    const bool isReplay = slot >= 0 && caseNumber >= 0;
+    const bool asks = (slot >= 0) != (caseNumber >= 0) || arguments.size() > (isReplay ? 0 : 1);
+    if (asks || (arguments.size() == 1 && arguments[0][0] == '-')) {
+        std::printf("usage: zvcheck [--cases N] [TABLE.txt] | --slot S --case N\n");
+        return 2;
+    }
+    std::signal(SIGSEGV, OnForbiddenAccess);
+    if (isReplay) return Replay(slot, caseNumber);
+    return CheckAll(cases, arguments.empty() ? nullptr : arguments[0]);
 }
 
 }  // namespace
@@ -124,11 +122,5 @@ int main(int count, char** arguments) {
     // Tables of all systems have the same line ends.
     _setmode(_fileno(stdout), _O_BINARY);
 #endif
-    const bool asks =
-        count == 2 && std::string(arguments[1]).starts_with("--") && std::string(arguments[1]) != "--table";
-    if (count > 2 || asks) {
-        std::printf("usage: zvcheck [--table | TABLE.txt]\n");
-        return 2;
-    }
-    return zorvic::Run(count == 2 ? arguments[1] : nullptr);
+    return zorvic::Run({arguments + 1, arguments + count});
 }
