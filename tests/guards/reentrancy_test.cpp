@@ -1,4 +1,5 @@
 // Resource managers that delete what they hear of, and hosts that delete what is not theirs.
+#include "support/allocations.h"
 #include "support/host.h"
 
 namespace {
@@ -61,6 +62,7 @@ TEST(Reentrancy, ManagersMayDeleteWhatTheyHearOf) {
         {"rounded, 32 bits", [] { DrawRounded(32); }, 3, 0},
         {"rounded, 24 bits", [] { DrawRounded(24); }, 3, 0},
     };
+    const Allocations fences(true);
     for (const auto& c : cases) {
         Destroyer manager;
         c.run();
@@ -70,6 +72,7 @@ TEST(Reentrancy, ManagersMayDeleteWhatTheyHearOf) {
 }
 
 TEST(Reentrancy, ACanvasKeepsItsSurface) {
+    const Allocations fences(true);
     for (const auto create : {CreateCanvas, CreateSystemCanvas}) {
         const OwnedCanvas canvas(create(9, 7, nullptr));
         DeleteBitmap(GetBitmap(canvas.get()));
