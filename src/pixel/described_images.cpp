@@ -38,7 +38,8 @@ bool LiesInside(const Touched& touched, const BITMAP& image, std::int64_t rowPix
     const std::int64_t lastRow = step == 0 ? pixelRow : std::min(std::abs(step), rowPixels);
     const std::int64_t one = touched.first * step, other = (touched.first + touched.count - 1) * step;
     const std::int64_t toLastRow = (image.bmHeight - std::int64_t{1}) * step;
-    return image.bmHeight > 0 && std::min(one, other) + touched.offset >= std::min<std::int64_t>(toLastRow, 0) &&
+    return image.bmWidth > 0 && image.bmHeight > 0 &&
+           std::min(one, other) + touched.offset >= std::min<std::int64_t>(toLastRow, 0) &&
            std::max(one, other) + touched.offset + touched.bytes <= std::max<std::int64_t>(toLastRow, 0) + lastRow &&
            std::abs(toLastRow) + lastRow <= PTRDIFF_MAX;
 }

@@ -52,11 +52,4 @@ TEST(Colors, TriplesAreTheLowBytesOfWords) {
     EXPECT_TRUE(same.blue == 1 && same.green == 2 && same.red == 3);
 }
 
-TEST(Colors, ColorizeASurfaceAsOneByOne) {
-    const host::OwnedBitmap bitmap = host::MakeBitmap(300, 40, host::Pattern{});
-    ColorizeTexture(reinterpret_cast<HGTEXTURE>(bitmap.get()), -0.4F, 0.3F, 0.1F);
-    EXPECT_TRUE(
-        host::Shows(bitmap.get(), [](int x, int y) { return ARGBColorize(host::Pattern{}(x, y), -0.4F, 0.3F, 0.1F); }));
-}
-
 }  // namespace

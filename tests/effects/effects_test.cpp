@@ -24,6 +24,7 @@ struct EffectCase {
 };
 
 constexpr DWORD before = 0x80C0A020, before24 = before & 0xFFFFFF;
+const DWORD colorized = ARGBColorize(before, 0.5F, -0.3F, 0.1F);
 
 // clang-format off
 const EffectCase effects[] = {
@@ -37,7 +38,7 @@ const EffectCase effects[] = {
     {"ShuffleBitmap 2", [](HGBITMAP b) { return ShuffleBitmap(b, 2); }, before, before24, before},
     {"TranslateTexture", [](HGBITMAP b) { return TranslateTexture(AsTexture(b), before, 0x11223344); }, 0x11223344, 0x223344, 0x11223344},
     {"TranslateTexture, other alpha", [](HGBITMAP b) { return TranslateTexture(AsTexture(b), before24, 0x11223344); }, before, 0x223344, before},
-    {"ColorizeTexture", [](HGBITMAP b) { return ColorizeTexture(AsTexture(b), 0, 0, -1); }, 0x80000000, 0, 0x80000000, "change 0;"},
+    {"ColorizeTexture", [](HGBITMAP b) { return ColorizeTexture(AsTexture(b), 0.5F, -0.3F, 0.1F); }, colorized, colorized & 0xFFFFFF, colorized, "change 0;"},
     {"ColorizeTexture by nothing", [](HGBITMAP b) { return ColorizeTexture(AsTexture(b), 0, 0.0000005F, 0); }, before, before24, before, "", 1},
     {"BlurBitmap", [](HGBITMAP b) { return BlurBitmap(b, b); }, before, before24, before, "", 1},
     {"LightBitmap", LightBitmap, 0xFFFFFFFF, before24, before, "release;", 1},

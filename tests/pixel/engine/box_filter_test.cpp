@@ -1,6 +1,5 @@
-// The box filter against sums over every box: boxes of all kinds, sizes, steps and margins.
-#include "pixel/box_filter.h"
-
+// The blur of described images, which is the box filter twice, against sums over every box: boxes of all kinds, sizes,
+// steps and depths.
 #include <algorithm>
 
 #include "pixel/described_images.h"
@@ -9,21 +8,6 @@
 
 namespace zorvic {
 namespace {
-
-std::size_t BufferSize(SIZE size, int box, int channels) {
-    std::size_t bytes = 0;
-    EXPECT_EQ(BoxFilterBufferSize(size, box, channels, &bytes), Status::success);
-    return bytes;
-}
-
-void Filter(const Image& dst, const Image& src, int box) {
-    const BitmapLockInfo &from = src.Info(), &to = dst.Info();
-    const int channels = from.bmBitsPixel / 8;
-    const FencedMemory buffer(BufferSize({from.bmWidth, from.bmHeight}, box, channels));
-    ASSERT_EQ(BoxFilter({from.bmBits, from.bmWidthBytes}, {to.bmBits, to.bmWidthBytes}, {from.bmWidth, from.bmHeight},
-                        box, channels, buffer.Bytes().data()),
-              Status::success);
-}
 
 // How often the box around place i of n holds place j.
 std::vector<double> Weights(int box, int i, int n) {
@@ -36,9 +20,10 @@ std::vector<double> Weights(int box, int i, int n) {
     return weights;
 }
 
-// Sums of up to 2^53 are exact.
-void FilterByModel(Image& dst, const Image& src, int box) {
+// Sums of up to 2^53 are exact. Halves of an odd area do not occur.
+Image Filtered(const Image& src, int box) {
     const int width = src.Info().bmWidth, height = src.Info().bmHeight;
+    Image dst = src;
     dst.Fill([&](int x, int y) {
         const std::vector<double> across = Weights(box, x, width), down = Weights(box, y, height);
         std::uint32_t pixel = 0;
@@ -53,62 +38,53 @@ void FilterByModel(Image& dst, const Image& src, int box) {
         }
         return pixel;
     });
+    return dst;
 }
 
-class BoxFilterSums : public AtLevel {};
-INSTANTIATE_TEST_SUITE_P(, BoxFilterSums, testing::ValuesIn(Levels()), LevelName);
+bool Blur(const Image& image, int box) {
+    const BitmapLockInfo& info = image.Info();
+    return BlurImage({0, info.bmWidth, info.bmHeight, info.bmWidthBytes, 0, info.bmBitsPixel, info.bmBits}, box);
+}
 
-TEST_P(BoxFilterSums, MatchThoseOfEveryBox) {
+class BlurImages : public AtLevel {};
+INSTANTIATE_TEST_SUITE_P(, BlurImages, testing::ValuesIn(Levels()), LevelName);
+
+TEST_P(BlurImages, MeansAreThoseOfEveryBoxTwice) {
     Random random(1);
     for (const int bitsPixel : {24, 32})
         for (const int box : {1, 2, 3, 4, 5, 15, 64, 255, 1000, 4096, 4097, 1 << 20})
             for (int round = 0; round < 12; ++round) {
                 const auto side = [&] { return 1 + random.Below(round < 6 ? 4 : 24); };
-                const auto margins = [&] { return Margins{random.Below(5), random.Below(2)}; };
-                const Image src(random, side(), side(), bitsPixel, margins());
-                Image dst(random, src.Info().bmWidth, src.Info().bmHeight, bitsPixel, margins());
-                Image wanted = dst;
-                FilterByModel(wanted, src, box);
-                ASSERT_NO_FATAL_FAILURE(Filter(dst, src, box));
-                ASSERT_TRUE(SameBytes(dst, wanted)) << bitsPixel << " bits, box " << box;
+                Image image(random, side(), side(), bitsPixel, {random.Below(5), 0});
+                const Image wanted = Filtered(Filtered(image, box), box);
+                EXPECT_TRUE(Blur(image, box));
+                ASSERT_TRUE(SameBytes(image, wanted)) << bitsPixel << " bits, box " << box;
             }
 }
 
-// Rounding and the sums' largest values show here: each row and column in turn, and both kinds of sums.
-TEST_P(BoxFilterSums, KeepFlatImages) {
-    for (const int box : {1, 2, 3, 64, 4095, 4096, 4097, 5000, 65535, 1 << 28, INT32_MAX})
-        for (const std::uint32_t color : {0x00000000U, 0xFFFFFFFFU, 0xFE0180FFU}) {
-            Image src(7, 5), dst(7, 5);
-            src.Fill([&](int, int) { return color; });
-            ASSERT_NO_FATAL_FAILURE(Filter(dst, src, box));
-            EXPECT_EQ(dst.Pixels(), src.Pixels()) << "box " << box;
+// Rounding and the sums' largest values show here: each row and column in turn, and both kinds of sums. Halves of the
+// largest boxes lie left and right of any image, so that their means are those of the edges.
+TEST_P(BlurImages, LargestSumsFit) {
+    for (const int box : {2, 64, 2896, 2897, 4095, 4096, 65535, 1 << 28, INT32_MAX})
+        for (const std::uint32_t color : {0xFFFFFFFFU, 0xFE0180FFU}) {
+            Image flat(7, 5);
+            flat.Fill([&](int, int) { return color; });
+            EXPECT_TRUE(Blur(flat, box));
+            EXPECT_EQ(flat.Pixels(), std::vector<std::uint32_t>(35, color)) << "box " << box;
         }
+    const Image edges = RowOf({0xFF000064, 0xFFFFFF00, 0xFF0000C8});
+    EXPECT_TRUE(Blur(edges, INT32_MAX));
+    EXPECT_EQ(edges.Pixels(), std::vector<std::uint32_t>(3, 0xFF000096));
 }
 
-// Halves of the largest boxes lie left and right of any image.
-TEST(BoxFilter, MeansOfTheLargestBoxesAreThoseOfTheEdges) {
-    const Image src = RowOf({0xFF000064, 0xFFFFFF00, 0xFF0000C8});
-    Image dst = RowOf({0, 0, 0});
-    ASSERT_NO_FATAL_FAILURE(Filter(dst, src, INT32_MAX));
-    EXPECT_EQ(dst.Pixels(), std::vector<std::uint32_t>(3, 0xFF000096));
-}
-
-BITMAP RecordOf(const Image& image) {
-    const BitmapLockInfo& info = image.Info();
-    return {0, info.bmWidth, info.bmHeight, info.bmWidthBytes, 0, info.bmBitsPixel, info.bmBits};
-}
-
-TEST(BlurImage, FiltersTwiceInPlace) {
-    Random random(2);
-    for (const int bitsPixel : {24, 32})
-        for (const int box : {1, 2, 3, 64}) {
-            Image image(random, 19, 11, bitsPixel, {5, 0});
-            Image once = image, twice = image;
-            FilterByModel(once, image, box);
-            FilterByModel(twice, once, box);
-            EXPECT_TRUE(BlurImage(RecordOf(image), box));
-            EXPECT_TRUE(SameBytes(image, twice)) << bitsPixel << " bits, box " << box;
-        }
+TEST(BlurImage, LeavesOtherDepthsAlone) {
+    Random random(3);
+    for (const int bitsPixel : {8, 16}) {
+        const Image image(random, 8, 8, bitsPixel), before = image;
+        EXPECT_TRUE(Blur(image, 3));
+        EXPECT_FALSE(Blur(image, 0));
+        EXPECT_TRUE(SameBytes(image, before)) << bitsPixel;
+    }
 }
 
 }  // namespace
