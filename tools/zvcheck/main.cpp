@@ -3,6 +3,7 @@
 //   zvcheck                        1,000 cases of each slot; writes the table of checksums to standard output
 //   zvcheck TABLE.txt              compares with the table of another machine instead of printing one
 //   zvcheck --cases N [TABLE.txt]  so many cases; from 100,000 on the table has a second column
+//   zvcheck --slot S [--cases N]   this slot's cases
 //   zvcheck --slot S --case N      one case: what it is, and which form differs where
 #include <csignal>
 #include <cstdio>
@@ -68,11 +69,13 @@ void PrintForms() {
     std::fprintf(stderr, "\n");
 }
 
-int CheckAll(int cases, const char* tableFile) {
+// Slot -1 stands for all of them.
+int CheckCases(int slot, int cases, const char* tableFile) {
     PrintForms();
     bool same = true;
     Table table;
     for (const Subject& subject : AllSubjects()) {
+        if (slot >= 0 && subject.slot.slot != slot) continue;
         const auto checker = MakeChecker(subject);
         std::vector<std::uint64_t> checksums;
         for (int i = 0; i < cases; ++i) {
@@ -103,15 +106,14 @@ int TakeNumber(std::vector<const char*>& arguments, const char* option, int othe
 int Run(std::vector<const char*> arguments) {
     const int cases = TakeNumber(arguments, "--cases", fewCases);
     const int slot = TakeNumber(arguments, "--slot", -1), caseNumber = TakeNumber(arguments, "--case", -1);
-    const bool isReplay = slot >= 0 && caseNumber >= 0;
-    const bool asks = (slot >= 0) != (caseNumber >= 0) || arguments.size() > (isReplay ? 0 : 1);
-    if (asks || (arguments.size() == 1 && arguments[0][0] == '-')) {
-        std::printf("usage: zvcheck [--cases N] [TABLE.txt] | --slot S --case N\n");
+    const bool hasTable = arguments.size() == 1 && arguments[0][0] != '-' && slot < 0;
+    if ((!arguments.empty() && !hasTable) || (caseNumber >= 0 && slot < 0)) {
+        std::printf("usage: zvcheck [--cases N] [TABLE.txt] | --slot S [--cases N | --case N]\n");
         return 2;
     }
     std::signal(SIGSEGV, OnForbiddenAccess);
-    if (isReplay) return Replay(slot, caseNumber);
-    return CheckAll(cases, arguments.empty() ? nullptr : arguments[0]);
+    if (caseNumber >= 0) return Replay(slot, caseNumber);
+    return CheckCases(slot, cases, hasTable ? arguments[0] : nullptr);
 }
 
 }  // namespace
