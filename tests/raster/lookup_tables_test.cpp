@@ -56,38 +56,6 @@ TEST_F(StretchWeights, FollowTheFilterAtEveryDistance) {
         }
 }
 
-TEST_F(StretchWeights, LiteralEntries) {
-    struct {
-        std::uint32_t mode;
-        std::size_t entry;
-        std::uint32_t packed;
-        int plain;
-    } constexpr cases[] = {
-        {1, 0, 0x2AAB2AAB, 171},   // 2/3
-        {1, 256, 0x0AAB0AAB, 43},  // 1/6
-        {1, 384, 0x01550155, 5},   // 1/48
-        {1, 512, 0, 0},
-        {0, 0, 0x40004000, 256},
-        {0, 128, 0x28002800, 160},  // 5/8
-        {0, 256, 0, 0},
-        {0, 384, 0xF801F801, -31},  // -1/8: -2047.5 and -31.5, toward zero
-        {0, 512, 0, 0},
-        {2, 0, 0x40004000, 256},
-        {2, 256, 0, 0},
-        {2, 384, 0xF801F801, -31},
-        {2, 512, 0, 0},
-    };
-    for (const auto& c : cases) {
-        StretchKernelMode = c.mode;
-        ProcessorFeatures.cpuHasMMX = true;
-        BuildStretchFilterWeights();
-        EXPECT_EQ(static_cast<std::uint32_t>(StretchFilterWeights[c.entry]), c.packed) << c.mode << ", " << c.entry;
-        ProcessorFeatures.cpuHasMMX = false;
-        BuildStretchFilterWeights();
-        EXPECT_EQ(StretchFilterWeights[c.entry], c.plain) << c.mode << ", " << c.entry;
-    }
-}
-
 TEST_F(StretchWeights, ChangeWithTheMode) {
     ProcessorFeatures.cpuHasMMX = true;
     EXPECT_EQ(StretchKernelMode, 1U);

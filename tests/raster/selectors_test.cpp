@@ -66,44 +66,58 @@ int IndexOf(const DrawChoice& choice) {
         choice);
 }
 
-// Calls check(request) for every combination.
-template <class Check>
-void ForEachRequest(const std::vector<std::uint32_t>& operations, const std::vector<std::uint32_t>& filterModes,
-                    const std::vector<std::uint8_t>& alphas, Check check) {
-    for (const std::uint32_t operation : operations)
-        for (const std::uint32_t filterMode : filterModes)
-            for (const std::uint8_t alpha : alphas)
-                for (const int depth : {0, 1, 2})
-                    for (const bool sameSize : {false, true}) {
-                        std::ostringstream name;
-                        name << "operation " << operation << ", filter " << filterMode << ", opacity " << int{alpha}
-                             << ", depth " << depth << (sameSize ? ", same size" : "");
-                        SCOPED_TRACE(name.str());
-                        check(Request{operation, filterMode, alpha, depth, sameSize});
-                    }
+constexpr std::uint32_t key = 0x00123456;
+
+// With many pixels of the key's color, transparent and opaque.
+Image KeyedSource(Random& random, int width, int height, int bitsPixel) {
+    Image source(random, width, height, bitsPixel);
+    const std::uint32_t keyPixels[] = {key, key | 0xFF000000};
+    for (std::uint32_t i = 0; i < source.Palette().size() && i < 2; ++i) source.Palette()[i] = keyPixels[i];
+    for (std::uint32_t i = 0; i < 60; ++i)
+        source.Set(random.Below(width), random.Below(height), bitsPixel == 8 ? i % 2 : keyPixels[i % 2]);
+    return source;
+}
+
+// That a request chooses its slot, and draws by it.
+void Check(const Request& r, Random& random) {
+    const std::uint32_t word = r.operation << 24 | key;
+    const DrawRequest request{static_cast<SourceDepth>(r.depth), r.sameSize, OperationOf(word), FilterOf(r.filterMode),
+                              r.alpha};
+    EXPECT_EQ(IndexOf(ChooseStretchKernel(request)), WantedSlot(r, false));
+    EXPECT_EQ(IndexOf(ChoosePlacedKernel(request)), WantedSlot(r, true)) << "placed";
+    if (r.operation == 0 && r.alpha == 255) {
+        EXPECT_EQ(ChooseResizeKernel(request.depth, r.sameSize, request.filter).index, WantedSlot(r, false));
+    }
+
+    constexpr int bits[] = {8, 24, 32};
+    const Image source = KeyedSource(random, r.sameSize ? 21 : 9, r.sameSize ? 13 : 17, bits[r.depth]);
+    const bool keyed = r.operation == 2 && r.alpha == 255;
+    const std::uint32_t argument = keyed ? key | (r.depth == 1 ? 0xFF000000 : 0) : r.alpha;
+    for (const bool placed : {false, true}) {
+        Image dst(random, placed ? 11 : 21, placed ? 7 : 13);
+        const Image wanted = dst;
+        const Placement placement = placed ? Placement{4, 2, 21, 13} : WholeOf(dst.Info());
+        const int slot = WantedSlot(r, placed);
+        if (slot != none) DrawByModel(slot, {wanted.Info(), placement, source.Info(), 0, argument});
+        EXPECT_EQ(placed ? SelectPlacedKernel(dst.Info(), placement, source.Info(), word, r.filterMode, r.alpha)
+                         : SelectStretchKernel(dst.Info(), source.Info(), word, r.filterMode, r.alpha),
+                  1);
+        EXPECT_TRUE(SameBytes(dst, wanted)) << (placed ? "placed" : "whole");
+    }
 }
 
 TEST(Selectors, ChooseASlotForEveryDraw) {
-    ForEachRequest({0, 1, 2, 3, 4, 5, 6, 7, 128, 255}, {0, 1, 2, 3, 4, 5, 6, 0xFFFFFFFF}, {0, 1, 2, 127, 254, 255},
-                   [](const Request& r) {
-                       const DrawRequest request{static_cast<SourceDepth>(r.depth), r.sameSize,
-                                                 OperationOf(r.operation << 24 | 0x00123456), FilterOf(r.filterMode),
-                                                 r.alpha};
-                       EXPECT_EQ(IndexOf(ChooseStretchKernel(request)), WantedSlot(r, false));
-                       EXPECT_EQ(IndexOf(ChoosePlacedKernel(request)), WantedSlot(r, true)) << "placed";
-                   });
-}
-
-TEST(Selectors, ChooseASlotForEveryResize) {
-    for (const auto& [filterMode, slot] : std::initializer_list<std::pair<std::uint32_t, int>>{
-             {0, 0}, {1, 3}, {2, 3}, {3, 3}, {4, 12}, {5, 9}, {6, 3}, {0x80000000, 3}})
-        for (const int depth : {0, 1, 2}) {
-            const auto choose = [&](bool sameSize) {
-                return ChooseResizeKernel(static_cast<SourceDepth>(depth), sameSize, FilterOf(filterMode)).index;
-            };
-            EXPECT_EQ(choose(false), slot + depth) << filterMode;
-            EXPECT_EQ(choose(true), 6 + depth) << filterMode;
-        }
+    Random random(11);
+    for (const std::uint32_t operation : {0U, 1U, 2U, 3U, 4U, 5U, 6U, 7U, 128U, 255U})
+        for (const std::uint32_t filterMode : {0U, 1U, 2U, 3U, 4U, 5U, 6U, 0xFFFFFFFFU})
+            for (const int alpha : {0, 1, 2, 127, 254, 255})
+                for (const int depth : {0, 1, 2})
+                    for (const bool sameSize : {false, true}) {
+                        SCOPED_TRACE(testing::Message()
+                                     << "operation " << operation << ", filter " << filterMode << ", opacity " << alpha
+                                     << ", depth " << depth << (sameSize ? ", same size" : ""));
+                        Check({operation, filterMode, static_cast<std::uint8_t>(alpha), depth, sameSize}, random);
+                    }
 }
 
 TEST(Selectors, ChooseASlotForEveryFill) {
@@ -128,40 +142,6 @@ TEST(Selectors, ChooseASlotForEveryFill) {
         for (const std::uint32_t color : {0x01000000U, 0x80808080U, 0xFE000000U})
             EXPECT_EQ(choose(color), c.translucent) << c.operation;
     }
-}
-
-constexpr std::uint32_t key = 0x00123456;
-
-// With many pixels of the key's color, transparent and opaque.
-Image KeyedSource(Random& random, int width, int height, int bitsPixel) {
-    Image source(random, width, height, bitsPixel);
-    const std::uint32_t keyPixels[] = {key, key | 0xFF000000};
-    for (std::uint32_t i = 0; i < source.Palette().size() && i < 2; ++i) source.Palette()[i] = keyPixels[i];
-    for (std::uint32_t i = 0; i < 60; ++i)
-        source.Set(random.Below(width), random.Below(height), bitsPixel == 8 ? i % 2 : keyPixels[i % 2]);
-    return source;
-}
-
-TEST(Selectors, DrawByTheSlotTheyChoose) {
-    Random random(11);
-    ForEachRequest({0, 1, 2, 3, 6, 9}, {0, 1, 4, 5}, {0, 1, 128, 255}, [&](const Request& r) {
-        constexpr int bits[] = {8, 24, 32};
-        const Image source = KeyedSource(random, r.sameSize ? 21 : 9, r.sameSize ? 13 : 17, bits[r.depth]);
-        const std::uint32_t word = r.operation << 24 | key;
-        const bool keyed = r.operation == 2 && r.alpha == 255;
-        const std::uint32_t argument = keyed ? key | (r.depth == 1 ? 0xFF000000 : 0) : r.alpha;
-        for (const bool placed : {false, true}) {
-            Image dst(random, placed ? 11 : 21, placed ? 7 : 13);
-            const Image wanted = dst;
-            const Placement placement = placed ? Placement{4, 2, 21, 13} : WholeOf(dst.Info());
-            const int slot = WantedSlot(r, placed);
-            if (slot != none) DrawByModel(slot, {wanted.Info(), placement, source.Info(), 0, argument});
-            EXPECT_EQ(placed ? SelectPlacedKernel(dst.Info(), placement, source.Info(), word, r.filterMode, r.alpha)
-                             : SelectStretchKernel(dst.Info(), source.Info(), word, r.filterMode, r.alpha),
-                      1);
-            EXPECT_TRUE(SameBytes(dst, wanted)) << (placed ? "placed" : "whole");
-        }
-    });
 }
 
 TEST(Selectors, DrawNothingForEmptyImages) {
