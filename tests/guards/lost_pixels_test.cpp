@@ -1,6 +1,6 @@
 // Pixels that went away behind the library's back, pixels that outlive their owner, and what is read beyond them.
 #include "support/allocations.h"
-#include "support/gdi.h"
+#include "support/host.h"
 
 namespace {
 
@@ -74,21 +74,10 @@ TEST(MemoryBitmaps, HoldWhatKernelsReadOfThem) {
                 DeleteObject(CreateTextureRgn(reinterpret_cast<HGTEXTURE>(bitmap.get()), nullptr));
                 for (const auto effect : {GrayBitmap, InvertBitmap, NormalizeBitmap, LightBitmap, DarkBitmap})
                     effect(bitmap.get());
+                for (int op = 1; op <= 7; ++op) DeleteBitmap(TransformBitmap(bitmap.get(), op));
+                DeleteBitmap(ResizeBitmap(bitmap.get(), 5, 5, 5));
                 EXPECT_NE(GetBitmapHandle(bitmap.get()), nullptr) << bits << " bits, " << width << " pixels wide";
             }
-}
-
-// A device context's pixels may be wider than any surface.
-TEST(WideDeviceContexts, AreReadToTheirEnd) {
-    constexpr int width = 70000, drawn = 70;
-    const GdiBitmap dib = GdiBitmap::Dib(width, 1);
-    BITMAP image{};
-    GetObjectW(dib.Handle(), sizeof image, &image);
-    for (DWORD x = 0; x < width; ++x) static_cast<DWORD*>(image.bmBits)[x] = 0xFF000000 | x / (width / drawn);
-    const OwnedCanvas source(CreateCanvasFromDC(dib.Dc())), canvas(CreateCanvas(drawn, 1, nullptr));
-    const RECT from{0, 0, width, 1}, to{0, 0, drawn, 1};
-    EXPECT_EQ(MixCanvas(canvas.get(), &to, source.get(), &from, 255), 1);
-    EXPECT_TRUE(Shows(canvas.get(), [](int x, int) { return 0xFF000000 | static_cast<DWORD>(x); }));
 }
 
 }  // namespace

@@ -4,57 +4,53 @@
 
 namespace {
 
-BITMAP RecordOf(std::vector<DWORD>& pixels, int width) {
+using Words = std::vector<DWORD>;
+
+BITMAP RecordOf(Words& pixels, int width) {
     const auto height = static_cast<int>(pixels.size()) / width;
     return {0, width, height, 4 * width, 1, 32, pixels.data()};
 }
 
-using Words = std::vector<DWORD>;
+const RECT lastRow{0, 1, 2, 2}, tooWide{0, 0, 4, 2};
 
-TEST(PrimitiveExports, CopySourceToDestination) {
-    Words from{1, 2, 3, 4, 5, 6}, to(6);
-    const BITMAP src = RecordOf(from, 3);
-    BITMAP dst = RecordOf(to, 3);
-    const RECT lastRow{0, 1, 2, 2}, tooWide{0, 0, 4, 2};
-    EXPECT_EQ(CopyBitmap_IPP(&src, &dst, &lastRow), 1);
-    EXPECT_EQ(to, (Words{0, 0, 0, 4, 5, 0}));
-    EXPECT_EQ(CopyBitmap_IPP(&src, &dst, &tooWide), 0);
-    EXPECT_EQ(CopyBitmap_IPP(&src, &dst, nullptr), 1);
-    EXPECT_EQ(to, from);
-}
+// clang-format off
+// Run on a source of 3 x 2 pixels, 80402010 and others, and a destination that is all white.
+const struct {
+    const char* name;
+    int (*run)(BITMAP* src, BITMAP* dst);
+    int result;
+    Words after;
+} cases[] = {
+    {"copy", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, nullptr); }, 1, {0x80402010, 0, 3, 4, 5, 6}},
+    {"copy a row", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, &lastRow); }, 1, {~0UL, ~0UL, ~0UL, 4, 5, ~0UL}},
+    {"copy too much", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, &tooWide); }, 0, Words(6, ~0UL)},
+    {"mirror rows", [](BITMAP* s, BITMAP* d) { return MirrorEx(s, d, 0); }, 1, {4, 5, 6, 0x80402010, 0, 3}},
+    {"mirror columns", [](BITMAP* s, BITMAP* d) { return MirrorEx(s, d, 1); }, 1, {3, 0, 0x80402010, 6, 5, 4}},
+    {"mirror both", [](BITMAP* s, BITMAP* d) { return MirrorEx(s, d, 2); }, 1, {6, 5, 4, 3, 0, 0x80402010}},
+    {"mirror otherwise", [](BITMAP* s, BITMAP* d) { return MirrorEx(s, d, -1); }, 0, Words(6, ~0UL)},
+    {"mirror into another size", [](BITMAP* s, BITMAP* d) { return ++s->bmHeight, MirrorEx(s, d, 0); }, 0, Words(6, ~0UL)},
+    {"mirror in place, twice", [](BITMAP* s, BITMAP* d) -> int {
+         s->bmBitsPixel = 24;  // four bytes all the same
+         return Mirror(s, 2) && Mirror(s, 0) && Mirror(s, 1) && !Mirror(s, 3) && CopyBitmap_IPP(d, d, nullptr) &&
+                static_cast<DWORD*>(s->bmBits)[5] == 6;
+     }, 1, Words(6, ~0UL)},
+    {"compose", [](BITMAP* s, BITMAP* d) { return AlphaBlend_IPP(s, d); }, 1, {0xFFBF9F8F, ~0UL, ~0UL, ~0UL, ~0UL, ~0UL}},
+    {"set", [](BITMAP*, BITMAP* d) { return SetColor_IPP(d, 0x80FF0000, 0); }, 1, Words(6, 0x80FF0000)},
+    {"set colors", [](BITMAP*, BITMAP* d) { return SetColor_IPP(d, 0x80FF0000, 1); }, 1, Words(6, 0xFFFF0000)},
+    {"or", [](BITMAP* s, BITMAP* d) { return ARGBOrBitmap_IPP(s, d, 0x0F000001); }, 1,
+     {0x8F402011, 0x0F000001, 0x0F000003, 0x0F000005, 0x0F000005, 0x0F000007}},
+    {"and in place", [](BITMAP*, BITMAP* d) { return ARGBAndBitmap_IPP(d, d, 0xFF0000FF); }, 1, Words(6, 0xFF0000FF)},
+    {"and of two sizes", [](BITMAP* s, BITMAP* d) { return --s->bmWidth, ARGBAndBitmap_IPP(s, d, 0); }, 0, Words(6, ~0UL)},
+};
+// clang-format on
 
-TEST(PrimitiveExports, Mirror) {
-    Words pixels{1, 2, 3, 4, 5, 6}, other(6);
-    BITMAP image = RecordOf(pixels, 3), second = RecordOf(other, 3), turned = RecordOf(other, 2);
-    EXPECT_EQ(Mirror(&image, 0), 1);
-    EXPECT_EQ(pixels, (Words{4, 5, 6, 1, 2, 3}));
-    EXPECT_EQ(Mirror(&image, 1), 1);
-    EXPECT_EQ(pixels, (Words{6, 5, 4, 3, 2, 1}));
-    EXPECT_EQ(Mirror(&image, 3), 0);
-    EXPECT_EQ(MirrorEx(&image, &second, 2), 1);
-    EXPECT_EQ(other, (Words{1, 2, 3, 4, 5, 6}));
-    EXPECT_EQ(MirrorEx(&image, &turned, 2), 0);
-    EXPECT_EQ(MirrorEx(&image, &second, -1), 0);
-}
-
-TEST(PrimitiveExports, ComposeFillAndMask) {
-    Words from{0x80402010, 0x00000000}, to{0xFFFFFFFF, 0x12345678};
-    const BITMAP src = RecordOf(from, 2);
-    BITMAP dst = RecordOf(to, 2);
-    EXPECT_EQ(AlphaBlend_IPP(&src, &dst), 1);
-    EXPECT_EQ(to, (Words{0xFFBF9F8F, 0x12345678}));
-    EXPECT_EQ(SetColor_IPP(&dst, 0x80FF0000, 1), 1);
-    EXPECT_EQ(to, (Words{0xFFFF0000, 0x12FF0000}));
-    EXPECT_EQ(SetColor_IPP(&dst, 0x80FF0000, 0), 1);
-    EXPECT_EQ(to, (Words{0x80FF0000, 0x80FF0000}));
-    EXPECT_EQ(ARGBOrBitmap_IPP(&src, &dst, 0x0F000001), 1);
-    EXPECT_EQ(to, (Words{0x8F402011, 0x0F000001}));
-    EXPECT_EQ(ARGBAndBitmap_IPP(&dst, &dst, 0xFF0000FF), 1);
-    EXPECT_EQ(to, (Words{0x8F000011, 0x0F000001}));
-    dst.bmWidth = 0;
-    EXPECT_EQ(SetColor_IPP(&dst, 0x80FF0000, 0), 0);
-    EXPECT_EQ(ARGBAndBitmap_IPP(&src, &dst, 0), 0);
-    EXPECT_EQ(to, (Words{0x8F000011, 0x0F000001}));
+TEST(PrimitiveExports, DoWhatTheirNamesSay) {
+    for (const auto& c : cases) {
+        Words from{0x80402010, 0, 3, 4, 5, 6}, to(6, ~0UL);
+        BITMAP src = RecordOf(from, 3), dst = RecordOf(to, 3);
+        EXPECT_EQ(c.run(&src, &dst), c.result) << c.name;
+        EXPECT_EQ(to, c.after) << c.name;
+    }
 }
 
 TEST(PrimitiveExports, BlurDataTwice) {

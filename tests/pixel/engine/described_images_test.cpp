@@ -35,22 +35,6 @@ TEST(CopyImage, CopiesAllOrAnArea) {
     }
 }
 
-TEST(MirrorImage, TwiceIsNothingAtAnyDepth) {
-    Random random(4);
-    for (int axis = 0; axis < 3; ++axis) {
-        Image image(random, 13, 7, 32, {2, 0}), other(random, 13, 7);
-        const Image before = image;
-        BITMAP record = RecordOf(image);
-        record.bmBitsPixel = 24;  // four bytes all the same
-        EXPECT_TRUE(MirrorImage(record, axis));
-        EXPECT_EQ(image.At(0, 0), before.At(axis == 0 ? 0 : 12, axis == 1 ? 0 : 6));
-        EXPECT_TRUE(MirrorImage(record, RecordOf(other), axis));
-        EXPECT_EQ(other.Pixels(), before.Pixels());
-        EXPECT_TRUE(MirrorImage(record, record, axis)) << "one image as both";
-        EXPECT_TRUE(SameBytes(image, before)) << axis;
-    }
-}
-
 TEST(OrAndImage, TakeRowsAsPackedWhateverTheStep) {
     Random random(6);
     for (const LONG step : {20, 0, 24, 3, -20, INT32_MIN}) {
