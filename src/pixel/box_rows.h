@@ -30,7 +30,7 @@ void BoxMeans(const typename S::Number* columns, int box, const typename S::Numb
     const typename S::Number* entering = columns + std::ptrdiff_t{4} * box;
     for (int x = 0; x < n; x += S::pixels, columns += 4 * S::pixels, entering += 4 * S::pixels) {
         const S means = Quotients(sums, divider);
-        if (n - x >= S::pixels) {
+        if (S::pixels == 1 || n - x >= S::pixels) {
             means.StorePixels(out + x);
         } else {
             std::uint32_t last[S::pixels];

@@ -73,7 +73,7 @@ private:
         ColumnSpan span{behind - first, src.bmWidth - B::lanes - first};
         BoxRows rows{SourceRow(src, lines.first) + std::ptrdiff_t{4} * first, src.bmWidthBytes,
                      lines.last - lines.first + 1, lines.firstWeight, lines.lastWeight};
-        if (depth != SourceDepth::argb32 || span.lastVector < 0) {
+        if (depth != SourceDepth::argb32 || (B::lanes > 1 && span.lastVector < 0)) {
             for (int i = 0; i < rows.count; ++i)
                 for (int x = 0; x < span.count; ++x)
                     copies[i][x] = ReadPixel<depth>(src, SourceRow(src, lines.first + i), first + x);

@@ -61,7 +61,7 @@ private:
         const RowWeights weights = WeightsAt(at.fraction);
         std::int16_t ofPixel[4] = {};
         int first = 4 * i;
-        if (readsRows) {
+        if (depth == SourceDepth::argb32 && readsRows) {
             // Taps outside the row give their weights to the edge pixel.
             first = ClampIndex(at.pixel - 1, src.bmWidth - 3);
             for (int k = 0; k < 4; ++k) {

@@ -148,7 +148,7 @@ private:
 
     const Row& TapsOfRow(int sourceRow) {
         return rows.Get(sourceRow, [&](Row& row) {
-            if (readsPairs) {
+            if (depth == SourceDepth::argb32 && readsPairs) {
                 RowCopy copy;
                 const std::uint32_t* const pixels = columns.Readable(Pixels(sourceRow), copy);
                 WithReach<V>(columns.ReachOfAll(), [&]<Reach reach>() {

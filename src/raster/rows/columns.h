@@ -35,7 +35,7 @@ public:
     // A row as it can be picked from: rows narrower than a window are copied.
     using RowCopy = std::uint32_t[2 * V::lanes + 1];
     const std::uint32_t* Readable(const std::uint32_t* row, RowCopy& copy) const {
-        if (copiedWidth == 0) return row;
+        if (!V::picksFromWindows || copiedWidth == 0) return row;
         ApplySpan<V>(Copy{}, copy, row, copiedWidth);
         return copy;
     }
