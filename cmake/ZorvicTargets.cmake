@@ -23,8 +23,9 @@ function(zorvic_vector_flags)
         set(flags_avx2 -mavx2)
         set(flags_avx512 -mavx512f -mavx512bw -mavx512vl -mavx512dq)
         if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-            # GCC 12 warns of its own header (GCC bug 105593).
-            list(APPEND flags_avx512 -Wno-uninitialized -Wno-maybe-uninitialized)
+            # GCC 12 warns of its own header: of variables that it sets to themselves (GCC bug 105593), and without
+            # optimisation of its macros' casts.
+            list(APPEND flags_avx512 -Wno-uninitialized -Wno-maybe-uninitialized -Wno-sign-conversion)
         endif()
         set(flags_xsave -mxsave) # XGETBV, where it is known to exist
     endif()
