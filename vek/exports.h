@@ -1,4 +1,4 @@
-// What every exported function does first: turn a handle into its object, and let no exception out.
+// What every exported function does first: turn a handle into its object, and let no exception in or out.
 #pragma once
 
 #include <memory>
@@ -6,6 +6,7 @@
 #include "canvas.h"
 #include "gradient.h"
 #include "path.h"
+#include "platform/own_floats.h"
 #include "vek/vekgraphic.h"
 
 namespace zorvic::vek {
@@ -22,6 +23,7 @@ inline std::shared_ptr<Gradient>* ObjectOf(VekGradient handle) {
 template <class Handle, class Call>
 int With(Handle handle, Call call) noexcept {
     if (!handle) return 0;
+    const OwnFloats floats;
     try {
         auto& object = *ObjectOf(handle);
         if constexpr (std::is_void_v<decltype(call(object))>) {
@@ -38,6 +40,7 @@ int With(Handle handle, Call call) noexcept {
 // Gives make()'s owning pointer away as a handle; 0 on any failure.
 template <class Handle, class Make>
 Handle NewHandle(Make make) noexcept {
+    const OwnFloats floats;
     try {
         return reinterpret_cast<Handle>(make().release());
     } catch (...) {

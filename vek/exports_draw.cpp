@@ -28,9 +28,13 @@ int vekCanvasDrawLine(VekCanvas canvas, float x1, float y1, float x2, float y2) 
 }
 
 int vekCanvasDrawRectangle(VekCanvas canvas, float x, float y, float width, float height) {
-    const auto [a, b] = CornersOf(x, y, width, height);
     return DrawOn(
-        canvas, [&](Canvas& c) { c.DrawRectangle(a, b); }, x, y, width, height);
+        canvas,
+        [&](Canvas& c) {
+            const auto [a, b] = CornersOf(x, y, width, height);
+            c.DrawRectangle(a, b);
+        },
+        x, y, width, height);
 }
 
 int vekCanvasDrawRoundRect(VekCanvas canvas, const RECT* rect, float rx, float ry) {
@@ -46,15 +50,23 @@ int vekCanvasDrawRoundRect(VekCanvas canvas, const RECT* rect, float rx, float r
 }
 
 int vekCanvasDrawCircle(VekCanvas canvas, float cx, float cy, float radius) {
-    const auto [a, b] = AroundCircle(cx, cy, radius);
     return DrawOn(
-        canvas, [&](Canvas& c) { c.DrawEllipse(a, b); }, cx, cy, radius);
+        canvas,
+        [&](Canvas& c) {
+            const auto [a, b] = AroundCircle(cx, cy, radius);
+            c.DrawEllipse(a, b);
+        },
+        cx, cy, radius);
 }
 
 int vekCanvasDrawEllipse(VekCanvas canvas, float x, float y, float width, float height) {
-    const auto [a, b] = CornersOf(x, y, width, height);
     return DrawOn(
-        canvas, [&](Canvas& c) { c.DrawEllipse(a, b); }, x, y, width, height);
+        canvas,
+        [&](Canvas& c) {
+            const auto [a, b] = CornersOf(x, y, width, height);
+            c.DrawEllipse(a, b);
+        },
+        x, y, width, height);
 }
 
 int vekCanvasDrawPath(VekCanvas canvas, VekPath path) {

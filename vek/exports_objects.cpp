@@ -23,14 +23,15 @@ float ToFloat(double value) {
     return static_cast<float>(std::clamp(value, -static_cast<double>(FLT_MAX), static_cast<double>(FLT_MAX)));
 }
 
-template <class... Number>
-VekGradient NewGradient(bool radial, Circle first, Circle last, Number... numbers) {
-    if (!AllFinite(numbers...)) return nullptr;
-    return NewHandle<VekGradient>(
-        [&] { return std::make_unique<std::shared_ptr<Gradient>>(std::make_shared<Gradient>(radial, first, last)); });
-}
-
 Circle CircleOf(float x, float y, float radius) { return {PointOf(x, y), std::max(static_cast<double>(radius), 0.0)}; }
+
+VekGradient NewGradient(bool radial, float x0, float y0, float r0, float x1, float y1, float r1) {
+    if (!AllFinite(x0, y0, r0, x1, y1, r1)) return nullptr;
+    return NewHandle<VekGradient>([&] {
+        return std::make_unique<std::shared_ptr<Gradient>>(
+            std::make_shared<Gradient>(radial, CircleOf(x0, y0, r0), CircleOf(x1, y1, r1)));
+    });
+}
 
 }  // namespace
 
@@ -80,21 +81,33 @@ int vekPathAddArc(VekPath path, float cx, float cy, float radius, float startAng
 }
 
 int vekPathAddRectangle(VekPath path, float x, float y, float width, float height) {
-    const auto [a, b] = CornersOf(x, y, width, height);
     return Build(
-        path, [&](Path& p) { p.AddRectangle(a, b); }, x, y, width, height);
+        path,
+        [&](Path& p) {
+            const auto [a, b] = CornersOf(x, y, width, height);
+            p.AddRectangle(a, b);
+        },
+        x, y, width, height);
 }
 
 int vekPathAddCircle(VekPath path, float cx, float cy, float radius) {
-    const auto [a, b] = AroundCircle(cx, cy, radius);
     return Build(
-        path, [&](Path& p) { p.AddEllipse(a, b); }, cx, cy, radius);
+        path,
+        [&](Path& p) {
+            const auto [a, b] = AroundCircle(cx, cy, radius);
+            p.AddEllipse(a, b);
+        },
+        cx, cy, radius);
 }
 
 int vekPathAddEllipse(VekPath path, float x, float y, float width, float height) {
-    const auto [a, b] = CornersOf(x, y, width, height);
     return Build(
-        path, [&](Path& p) { p.AddEllipse(a, b); }, x, y, width, height);
+        path,
+        [&](Path& p) {
+            const auto [a, b] = CornersOf(x, y, width, height);
+            p.AddEllipse(a, b);
+        },
+        x, y, width, height);
 }
 
 int vekPathGetBounds(VekPath path, VekBounds* bounds) {
@@ -107,11 +120,11 @@ int vekPathGetBounds(VekPath path, VekBounds* bounds) {
 }
 
 VekGradient vekGradientCreateLinear(float x1, float y1, float x2, float y2) {
-    return NewGradient(false, CircleOf(x1, y1, 0), CircleOf(x2, y2, 0), x1, y1, x2, y2);
+    return NewGradient(false, x1, y1, 0, x2, y2, 0);
 }
 
 VekGradient vekGradientCreateRadial(float x0, float y0, float r0, float x1, float y1, float r1) {
-    return NewGradient(true, CircleOf(x0, y0, r0), CircleOf(x1, y1, r1), x0, y0, r0, x1, y1, r1);
+    return NewGradient(true, x0, y0, r0, x1, y1, r1);
 }
 
 int vekGradientAddColorStop(VekGradient gradient, float offset, DWORD color) {

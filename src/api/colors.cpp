@@ -1,6 +1,7 @@
 // Exports that convert and colorize single colours. Triples are words without alpha.
 #include "effects/pixels/color_model.h"
 #include "effects/pixels/colorize.h"
+#include "platform/own_floats.h"
 #include "zorvic/zorvic.h"
 
 namespace {
@@ -22,17 +23,21 @@ HSLTriple ZORVIC_CALL RGBtoHSL(RGBTriple rgb) { return ToTriple<HSLTriple>(zorvi
 RGBTriple ZORVIC_CALL HSLtoRGB(HSLTriple hsl) { return ToTriple<RGBTriple>(zorvic::ToArgb(Word(hsl))); }
 
 DWORD ZORVIC_CALL ARGBColorize(DWORD argb, float hue, float saturation, float lightness) {
+    const zorvic::OwnFloats floats;
     return zorvic::ColorizeArgb(argb, {hue, saturation, lightness});
 }
 
 RGBTriple ZORVIC_CALL RGBColorize(RGBTriple rgb, float hue, float saturation, float lightness) {
+    const zorvic::OwnFloats floats;
     return ToTriple<RGBTriple>(zorvic::ColorizeArgb(Word(rgb), {hue, saturation, lightness}));
 }
 
 DWORD ZORVIC_CALL AHSLColorize(DWORD ahsl, float hue, float saturation, float lightness) {
+    const zorvic::OwnFloats floats;
     return zorvic::ColorizeAhsl(ahsl, {hue, saturation, lightness});
 }
 
 HSLTriple ZORVIC_CALL HSLColorize(HSLTriple hsl, float hue, float saturation, float lightness) {
+    const zorvic::OwnFloats floats;
     return ToTriple<HSLTriple>(zorvic::ColorizeAhsl(Word(hsl), {hue, saturation, lightness}));
 }

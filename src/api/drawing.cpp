@@ -3,6 +3,7 @@
 
 #include "draw/bitmaps.h"
 #include "draw/layouts.h"
+#include "platform/own_floats.h"
 #include "raster/lookup_tables.h"
 #include "zorvic/zorvic.h"
 
@@ -49,5 +50,6 @@ int DrawTextureEx2(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, DWORD fi
 int DrawTextureEx3(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const TextureDrawParams* params, void*) {
     if (!canvas || !texture || !params) return 0;
     if (!dst) return 1;
+    const zorvic::OwnFloats floats;
     return zorvic::DrawTexture(*FromHandle(canvas), *dst, *FromHandle(texture), *params);
 }

@@ -5,6 +5,7 @@
 #include "effects/pixels/colorize.h"
 #include "effects/pixels/tone.h"
 #include "effects/region.h"
+#include "platform/own_floats.h"
 #include "zorvic/zorvic.h"
 
 using zorvic::ApplyEffect;
@@ -53,6 +54,7 @@ int ZORVIC_CALL TranslateTexture(HGTEXTURE texture, DWORD from, DWORD to) {
 }
 
 int ZORVIC_CALL ColorizeTexture(HGTEXTURE texture, float hue, float saturation, float lightness) {
+    const zorvic::OwnFloats floats;
     const zorvic::HslAmounts amounts{hue, saturation, lightness};
     if (amounts.IsNothing()) return 1;  // even without a texture
     return texture ? ApplyEffectAndTell(SurfaceOf(texture), zorvic::ColorizeImage, amounts) : 0;

@@ -2,6 +2,7 @@
 #include "draw/layouts.h"
 
 #include "draw/nine_grid.h"
+#include "platform/own_floats.h"
 #include "zorvic/zorvic.h"
 
 using zorvic::FromHandle;
@@ -23,6 +24,7 @@ int DrawTextureCenter(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const
                       BYTE alpha) {
     if (!canvas || !texture) return 0;
     if (!dst) return 1;
+    const zorvic::OwnFloats floats;
     return zorvic::DrawTextureCenter(*FromHandle(canvas), *dst, *FromHandle(texture), slice, Params(filter, alpha));
 }
 
@@ -30,6 +32,7 @@ int DrawTextureUniform(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, cons
                        BYTE alpha, bool center) {
     if (!canvas || !texture) return 0;
     if (!dst || !margins) return 1;
+    const zorvic::OwnFloats floats;
     return zorvic::DrawTextureUniform(*FromHandle(canvas), *dst, *FromHandle(texture), *margins, center,
                                       Params(filter, alpha));
 }
@@ -37,6 +40,7 @@ int DrawTextureUniform(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, cons
 int DrawTextureTile(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const RECT* slice, DWORD filter, BYTE alpha,
                     DWORD flags, float scale) {
     if (!canvas || !texture || !dst) return 0;
+    const zorvic::OwnFloats floats;
     return zorvic::DrawTextureTile(*FromHandle(canvas), *dst, *FromHandle(texture), slice, flags,
                                    Params(filter, alpha, scale));
 }
@@ -44,6 +48,7 @@ int DrawTextureTile(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const R
 int DrawTextureTopTile(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const RECT* slice, const RECT* margins,
                        DWORD filter, BYTE alpha) {
     if (!canvas || !texture || !dst || !margins) return 0;
+    const zorvic::OwnFloats floats;
     return zorvic::DrawTextureTopTile(*FromHandle(canvas), *dst, *FromHandle(texture), slice, *margins,
                                       Params(filter, alpha));
 }
@@ -53,6 +58,7 @@ int DrawTexture9Grid(HGCANVAS canvas, const RECT* dst, HGTEXTURE texture, const 
                      DWORD filter, int centerFill, BYTE alpha, DWORD, float destinationScale, double sourceScale) {
     if (!canvas || !texture) return 0;
     if (!dst || !margins) return 1;
+    const zorvic::OwnFloats floats;
     return zorvic::DrawTexture9Grid(*FromHandle(canvas), *dst, *FromHandle(texture), slice, *margins, centerFill != 0,
                                     Params(filter, alpha, destinationScale, sourceScale));
 }
