@@ -20,6 +20,17 @@ void FillWithRubbish(auto& record) { std::memset(&record, 0x6D, sizeof record); 
 
 }  // namespace
 
+RECT EdgeRect(int number, SIZE surface) {
+    const auto next = [&](LONG extent) {
+        const LONG values[edges] = {INT_MIN,    INT_MIN + 1, -32768,     -1,    0,      1,
+                                    extent - 1, extent,      extent + 1, 32767, INT_MAX};
+        const LONG value = values[number % edges];
+        number /= edges;
+        return value;
+    };
+    return {next(surface.cx), next(surface.cy), next(surface.cx), next(surface.cy)};
+}
+
 int Arguments::Absurd() {
     constexpr int values[] = {INT_MIN, INT_MIN + 1, -65536, -32768, -1,          0,       1,
                               32767,   32768,       65535,  65536,  INT_MAX - 1, INT_MAX, 0x40000000};
@@ -28,8 +39,8 @@ int Arguments::Absurd() {
 
 // Mostly small; the pixels of huge ones would take the time of the others.
 int Arguments::Extent() {
-    if (OneIn(24)) return Absurd();
-    if (OneIn(64)) return Between(1000, 32767);
+    if (Rarely(24)) return Absurd();
+    if (Rarely(64)) return Between(1000, 32767);
     return OneIn(4) ? Between(1, 5) : Between(1, 64);
 }
 
@@ -49,7 +60,7 @@ std::int64_t Arguments::Integer() {
     if (name == "stride") return stride = OneIn(4) ? Between(0, 300) : (width & 0xFF) * 4 + Between(-1, 9);
     if (name == "alpha") return OneIn(2) ? 255 : Between(0, 255);
     if (name == "center") return OneIn(2);
-    if (OneIn(24)) return Absurd();
+    if (Rarely(24)) return Absurd();
     if (name == "bitsPixel") {
         constexpr int depths[] = {8, 8, 24, 24, 32, 32, 32, 16, 1, 4};
         return depths[random.Word() % std::size(depths)];
@@ -68,7 +79,7 @@ std::int64_t Arguments::Integer() {
 
 double Arguments::Number() {
     using Limits = std::numeric_limits<float>;
-    if (OneIn(24)) {
+    if (OneIn(24) && wishes.absurd != Absurd::nothing) {
         constexpr float absurd[] = {Limits::quiet_NaN(),
                                     Limits::infinity(),
                                     -Limits::infinity(),
@@ -91,7 +102,7 @@ double Arguments::Number() {
 bool Arguments::EndsItsObject() const { return std::ranges::find(endings, callee) != std::end(endings); }
 
 void* Arguments::PickHandle(Kind kind) {
-    if (OneIn(32)) return nullptr;
+    if (Rarely(32)) return nullptr;
     // What takes a bitmap takes a texture or a canvas's surface as well, unless it is going to end it.
     const int other = kind == Kind::bitmap && !EndsItsObject() ? random.Below(5) : 0;
     object = pool.Pick(other == 1 ? Kind::texture : other == 2 ? Kind::canvas : kind, random);
@@ -108,8 +119,8 @@ HDC Arguments::PickDc() {
 }
 
 void Arguments::Fill(RECT& rect) {
-    if (parameter == forced.parameter) {
-        rect = forced.rect;
+    if (parameter == wishes.edgeParameter) {
+        rect = EdgeRect(wishes.edgeRect, size);
         return;
     }
     if (name == "margins" && !OneIn(6)) {
@@ -120,10 +131,10 @@ void Arguments::Fill(RECT& rect) {
     if (OneIn(4)) return;
     const int outside = name.starts_with("src") || name == "area" || name.starts_with("slice") ? 0 : 8;
     const auto place = [&](LONG extent) {
-        return OneIn(48) ? Absurd() : Between(-outside, static_cast<int>(extent) + outside);
+        return Rarely(48) ? Absurd() : Between(-outside, static_cast<int>(extent) + outside);
     };
     rect = {place(size.cx), place(size.cy), place(size.cx), place(size.cy)};
-    if (OneIn(8)) return;  // empty or the wrong way round
+    if (Rarely(8)) return;  // empty or the wrong way round
     if (rect.left > rect.right) std::swap(rect.left, rect.right);
     if (rect.top > rect.bottom) std::swap(rect.top, rect.bottom);
 }
@@ -131,9 +142,9 @@ void Arguments::Fill(RECT& rect) {
 std::byte* Arguments::PlaceImage(std::int64_t bytes) {
     images |= std::size_t{1} << places;
     std::byte* const image = Place(static_cast<std::size_t>(bytes));
-    for (std::int64_t i = 0; i + 4 <= bytes; i += 4) {
+    for (std::int64_t i = 0; i < bytes; i += 4) {
         const std::uint32_t pixel = random.Pixel();
-        std::memcpy(image + i, &pixel, sizeof pixel);
+        std::memcpy(image + i, &pixel, static_cast<std::size_t>(std::min<std::int64_t>(bytes - i, 4)));
     }
     return image;
 }
@@ -145,7 +156,7 @@ void Arguments::Fill(BITMAP& image) {
         image = hostImage;
         return;
     }
-    const auto extent = [&] { return OneIn(24) ? Absurd() : Between(1, 40); };
+    const auto extent = [&] { return Rarely(24) ? Absurd() : Between(1, 40); };
     const int bitsPixel = OneIn(6) ? 24 : OneIn(12) ? random.Below(40) : 32;
     image = {0, extent(), extent(), 0, 1, static_cast<WORD>(bitsPixel), nullptr};
     const std::int64_t rowBytes = RowBytes(image);
@@ -156,7 +167,7 @@ void Arguments::Fill(BITMAP& image) {
     if (taken > 0) image.bmHeight = std::min(image.bmHeight, static_cast<LONG>(Fence::capacity / taken));
     const std::int64_t rows = taken > 0 ? std::max(image.bmHeight, 0L) : 0;
     std::byte* const first = PlaceImage(taken * rows);
-    image.bmBits = OneIn(32) ? nullptr : first;
+    image.bmBits = Rarely(32) ? nullptr : first;
     if (OneIn(3) && rows > 0) {
         image.bmWidthBytes = -image.bmWidthBytes;
         if (!isPacked && image.bmBits) image.bmBits = first + step * (rows - 1);
@@ -177,7 +188,7 @@ void Arguments::Fill(BitmapLockInfo& image) {
 
 void* Arguments::BlurredBits() {
     const std::int64_t bytes = height > 0 && stride > 0 ? std::int64_t{height} * stride : 0;
-    return OneIn(24) || bytes > std::int64_t{Fence::capacity} ? nullptr : PlaceImage(bytes);
+    return Rarely(24) || bytes > std::int64_t{Fence::capacity} ? nullptr : PlaceImage(bytes);
 }
 
 void Arguments::Fill(TextureMode& mode) {

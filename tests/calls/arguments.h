@@ -12,16 +12,23 @@
 
 namespace calls {
 
-// A rectangle that one parameter gets instead of a random one.
-struct ForcedRect {
-    int parameter = -1;
-    RECT rect{};
+// Edge values around the extent of the surface that a rectangle belongs to, in each of the four members.
+inline constexpr int edges = 11, edgeRects = edges * edges * edges * edges;
+RECT EdgeRect(int number, SIZE surface);
+
+enum class Absurd { anything, numbers, nothing };  // numbers: floating-point ones
+
+// Which arguments are wanted.
+struct Wishes {
+    Absurd absurd = Absurd::anything;
+    int edgeParameter = -1;  // the one that gets the edge rectangle
+    int edgeRect = 0;
 };
 
 class Arguments {
 public:
-    Arguments(Pool& objects, Fences& memory, std::string_view exportName, Random& numbers, const ForcedRect& forcedRect)
-        : pool(objects), fences(memory), callee(exportName), random(numbers), forced(forcedRect), text(exportName) {}
+    Arguments(Pool& objects, Fences& memory, std::string_view exportName, Random& numbers, const Wishes& wanted)
+        : pool(objects), fences(memory), callee(exportName), random(numbers), wishes(wanted), text(exportName) {}
 
     // The argument for the next parameter, which has this name.
     template <class T>
@@ -94,7 +101,7 @@ private:
     template <class Record>
     Record* MakeRecords() {
         const bool isArray = name == "rects" || name == "points" || name == "pattern";
-        if (!isArray && parameter != forced.parameter && OneIn(24)) return nullptr;
+        if (!isArray && Rarely(24)) return nullptr;
         const int records = isArray ? std::max(Count(), 1) : 1;
         auto* const first = reinterpret_cast<Record*>(Place(static_cast<std::size_t>(records) * sizeof(Record)));
         for (Record* record = first; record < first + records; ++record) Fill(*record);
@@ -108,15 +115,17 @@ private:
     void Fill(BitmapLockInfo& image);
     void Fill(TextureMode& mode);
     void Fill(TextureDrawParams& params);
-    void Fill(float& length) { length = static_cast<float>(Between(OneIn(9) ? -1 : 1, 9)); }
+    void Fill(float& length) { length = static_cast<float>(Between(Rarely(9) ? -1 : 1, 9)); }
     void Fill(auto& record) {
         std::memset(static_cast<void*>(&record), static_cast<int>(random.Word()), sizeof record);
     }
 
+    // Whether to do something absurd.
+    bool Rarely(int n) { return OneIn(n) && wishes.absurd == Absurd::anything; }
     bool OneIn(int n) { return random.Below(n) == 0; }
     int Between(int low, int high) { return low + random.Below(high - low + 1); }
     int Absurd();
-    int Coordinate(int extent) { return OneIn(32) ? Absurd() : Between(-8, static_cast<int>(extent) + 8); }
+    int Coordinate(int extent) { return Rarely(32) ? Absurd() : Between(-8, static_cast<int>(extent) + 8); }
     int Extent();
     int Count();
     DWORD OperationWord();
@@ -156,7 +165,7 @@ private:
     Fences& fences;
     const std::string_view callee;
     Random& random;
-    const ForcedRect forced;
+    const Wishes wishes;
 
     int parameter = -1;
     std::string_view name;

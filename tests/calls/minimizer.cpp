@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <numeric>
 #include <vector>
@@ -28,6 +29,7 @@ LONG CALLBACK EndProcess(EXCEPTION_POINTERS* happened) {
         "crash %08lX at offset %lX of %s\n", code,
         static_cast<DWORD>(static_cast<const char*>(record.ExceptionAddress) - reinterpret_cast<const char*>(module)),
         name);
+    std::cout.flush();
     std::fflush(stdout);
     TerminateProcess(GetCurrentProcess(), 3);
     return EXCEPTION_CONTINUE_SEARCH;
@@ -70,16 +72,26 @@ Outcome RunSelf(const std::string& arguments) {
     return {code != 0, {std::istreambuf_iterator<char>(file), {}}};
 }
 
-std::string SeedsText(int first, int end) { return "--seeds " + std::to_string(first) + " " + std::to_string(end); }
+std::string RangeText(int first, int end) { return " " + std::to_string(first) + " " + std::to_string(end); }
+
+// The first number of a range with which the program fails, or end.
+int FirstFailing(const std::string& mode, int first, int end) {
+    if (!RunSelf(mode + RangeText(first, end)).failed) return end;
+    while (end - first > 1) {
+        const int middle = std::midpoint(first, end);
+        (RunSelf(mode + RangeText(first, middle)).failed ? end : first) = middle;
+    }
+    return first;
+}
 
 std::string ReplayText(int seed, const std::vector<int>& calls) {
-    std::string text = "--seed " + std::to_string(seed) + " --calls ";
+    std::string text = " --seed " + std::to_string(seed) + " --calls ";
     for (const int call : calls) text += (call == calls.front() ? "" : ",") + std::to_string(call);
     return text;
 }
 
 // Leaves out ever smaller parts of the calls, as long as what is left still fails.
-std::vector<int> FewestCalls(int seed) {
+std::vector<int> FewestCalls(int seed, const std::string& mode) {
     std::vector<int> calls(callsOfSequence);
     std::iota(calls.begin(), calls.end(), 0);
     for (std::size_t part = calls.size(); part > 0; part /= 2)
@@ -87,7 +99,7 @@ std::vector<int> FewestCalls(int seed) {
             std::vector<int> fewer = calls;
             const auto first = fewer.begin() + static_cast<std::ptrdiff_t>(at);
             fewer.erase(first, first + static_cast<std::ptrdiff_t>(std::min(part, calls.size() - at)));
-            if (!fewer.empty() && RunSelf(ReplayText(seed, fewer)).failed)
+            if (!fewer.empty() && RunSelf(mode + ReplayText(seed, fewer)).failed)
                 calls = fewer;
             else
                 at += part;
@@ -99,19 +111,23 @@ std::vector<int> FewestCalls(int seed) {
 
 void ReportCrashes() { AddVectoredExceptionHandler(1, EndProcess); }
 
-std::string FaultOfSeeds(int first, int end) {
-    if (!RunSelf(SeedsText(first, end)).failed) return {};
-    while (end - first > 1) {
-        const int middle = std::midpoint(first, end);
-        if (RunSelf(SeedsText(first, middle)).failed)
-            end = middle;
-        else
-            first = middle;
-    }
-    const std::string replay = ReplayText(first, FewestCalls(first));
+std::string FaultOfSeeds(int first, int end, const std::string& mode) {
+    const int seed = FirstFailing(mode + " --seeds", first, end);
+    if (seed == end) return {};
+    const std::string replay = mode + ReplayText(seed, FewestCalls(seed, mode));
     const Outcome last = RunSelf(replay);
-    if (!last.failed) return "Seed " + std::to_string(first) + " fails only after those before it.";
+    if (!last.failed) return "Seed " + std::to_string(seed) + " fails only after those before it.";
     return "call_tests " + replay + "\n" + last.output;
+}
+
+std::string FaultOfExports(int first, int end) {
+    const int place = FirstFailing("--edges", first, end);
+    if (place == end) return {};
+    const std::string output = RunSelf("--edge " + std::to_string(place)).output;
+    // The last lines: the call, and what happened.
+    std::size_t start = output.size();
+    for (int lines = 0; lines < 3 && start != std::string::npos; ++lines) start = output.rfind('\n', start - 1);
+    return start == std::string::npos ? output : output.substr(start + 1);
 }
 
 }  // namespace calls

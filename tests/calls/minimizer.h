@@ -9,7 +9,10 @@ namespace calls {
 void ReportCrashes();
 
 // Runs the sequences of the seeds in [first, end). Returns the first one's fault with the fewest calls that still show
-// it, and how to repeat it; empty when there is none.
-std::string FaultOfSeeds(int first, int end);
+// it, and how to repeat it; empty when there is none. mode: an argument that the processes get before the seeds.
+std::string FaultOfSeeds(int first, int end, const std::string& mode = "");
+
+// The same for the edge rectangles of the exports at the places [first, end) of the table.
+std::string FaultOfExports(int first, int end);
 
 }  // namespace calls

@@ -201,6 +201,17 @@ void Pool::Delete(Object& object) {
     }
 }
 
+void Pool::ChangeOperations(Random& random) {
+    for (const Kind kind : {Kind::bitmap, Kind::texture, Kind::canvas})
+        if (const Object* object = Pick(kind, random); object && object->Surface()) {
+            const DWORD operation = random.Word() % 7 << 24;
+            SetBitmapFilter(object->Surface(), operation);
+            if (kind == Kind::canvas) SetCanvasFilter(object->As<HGCANVAS>(), operation);
+        }
+    const TextureMode mode{random.Below(7), random.Word() % 32, {3, 4, 5, 2}};
+    if (const Object* texture = Pick(Kind::texture, random)) SetTextureMode(texture->As<HGTEXTURE>(), &mode);
+}
+
 HDC Pool::PickDc(Random& random) {
     const Object* canvas = random.Below(2) == 0 ? Pick(Kind::canvas, random) : nullptr;
     return canvas && canvas->dc ? canvas->dc : hostBitmaps[random.Word() % std::size(hostBitmaps)].Dc();

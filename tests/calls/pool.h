@@ -58,6 +58,8 @@ public:
     void Fill(const Object& object, Random& random) const;
     // Frees the place of an object that a call is about to end; what borrows from it is deleted.
     void Release(Object& object);
+    // Changes how some surfaces are drawn.
+    void ChangeOperations(Random& random);
     HDC PickDc(Random& random);
     // The canvas that such a device context belongs to; null for the host's.
     void* OwnerOf(HDC dc) const;

@@ -9,9 +9,9 @@ namespace calls {
 
 class Stopwatch {
 public:
-    static constexpr double tooLong = 1;  // s
+    explicit Stopwatch(double seconds) : tooLong(seconds) {}
 
-    // The system is asked for the processor's time only after a second has passed.
+    // The system is asked for the processor's time only when the time that passed is too long.
     bool SaysTooLong() const {
         using Seconds = std::chrono::duration<double>;
         return Seconds(Clock::now() - start).count() > tooLong && ProcessorTime() - processorStart > tooLong;
@@ -31,6 +31,7 @@ private:
         return seconds(kernel) + seconds(user);
     }
 
+    const double tooLong;
     Clock::time_point start = Clock::now();
     double processorStart = ProcessorTime();
 };

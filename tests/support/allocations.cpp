@@ -67,7 +67,7 @@ void* NewFencedBlock(Ledger& books, std::size_t size, std::size_t alignment, std
     if (!end) return nullptr;
     const auto address = (reinterpret_cast<std::uintptr_t>(end) - size) / alignment * alignment;
     auto* const block = reinterpret_cast<std::byte*>(address);
-    std::fill(end - pages * host::pageSize, block, filler);
+    std::fill(end - pages * host::pageSize, end, filler);
     return block;
 }
 
