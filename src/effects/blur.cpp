@@ -7,9 +7,9 @@
 
 namespace zorvic {
 
-void BlurBitmap(const Bitmap& dst, const Bitmap& src) {
+bool BlurBitmap(const Bitmap& dst, const Bitmap& src) {
     const SurfaceLock from(src), to(dst);
-    if (from && to) BoxBlur(*to, *from);
+    return from && to && BoxBlur(*to, *from);
 }
 
 void Soften(const Bitmap& bitmap, SoftEffect effect) {
@@ -17,7 +17,7 @@ void Soften(const Bitmap& bitmap, SoftEffect effect) {
     const auto copy = MakeSurface<Bitmap>(size.cx, size.cy, 32, 0, StoreKind::memory);
     if (!copy) return;
     copy->isHosts = false;
-    BlurBitmap(*copy, bitmap);
+    if (!BlurBitmap(*copy, bitmap)) return;  // the copy's pixels are still undefined
     if (effect == SoftEffect::light) ApplyEffect(*copy, nullptr, WhitenImage);
     BlurBitmap(bitmap, *copy);
     BlurBitmap(*copy, bitmap);

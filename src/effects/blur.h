@@ -5,8 +5,8 @@
 
 namespace zorvic {
 
-// BoxBlur of all of src into dst; nothing when either cannot be locked.
-void BlurBitmap(const Bitmap& dst, const Bitmap& src);
+// BoxBlur of all of src into dst; nothing, and false, when either cannot be locked.
+bool BlurBitmap(const Bitmap& dst, const Bitmap& src);
 
 // What the bitmap becomes: a white glow in the shape of what is not transparent, or a blurred copy for a shadow.
 enum class SoftEffect { light, dark };

@@ -39,6 +39,8 @@ TEST(LostPixels, AreNotTouched) {
         const OwnedTexture view(GetTexture(canvas.get()));
         ASSERT_TRUE(section && DeleteObject(section)) << "a host may do this";
         UseAll(canvas.get(), bitmap.get(), view.get());
+        BITMAP image;
+        EXPECT_EQ(LockBitmapBits(GetBitmap(canvas.get()), &image, nullptr), 0);
         EXPECT_TRUE(Shows(bitmap.get(), Pattern{}));
     }
 }
@@ -78,6 +80,20 @@ TEST(MemoryBitmaps, HoldWhatKernelsReadOfThem) {
                 DeleteBitmap(ResizeBitmap(bitmap.get(), 5, 5, 5));
                 EXPECT_NE(GetBitmapHandle(bitmap.get()), nullptr) << bits << " bits, " << width << " pixels wide";
             }
+}
+
+// A copy whose pixels could not be made must not come into the bitmap.
+TEST(SoftEffects, ChangeNothingWhenMemoryIsShortAtFirst) {
+    for (int k = 1; k <= 4; ++k) {
+        const OwnedBitmap bitmap = MakeBitmap(9, 7, Pattern{});
+        {
+            Allocations memory(true);
+            memory.FailAt(k);
+            EXPECT_EQ(LightBitmap(bitmap.get()), 1);
+            EXPECT_TRUE(memory.HasFailed());
+        }
+        EXPECT_TRUE(Shows(bitmap.get(), Pattern{})) << "allocation " << k;
+    }
 }
 
 }  // namespace

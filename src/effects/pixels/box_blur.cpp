@@ -56,10 +56,10 @@ private:
 
 }  // namespace
 
-void BoxBlur(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
-    if (dst.bmBitsPixel != 32 || src.bmBitsPixel != 32 || IsEmpty(dst) || IsEmpty(src)) return;
+bool BoxBlur(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
+    if (dst.bmBitsPixel != 32 || src.bmBitsPixel != 32 || IsEmpty(dst) || IsEmpty(src)) return false;
     NeighborSums sums(src);
-    if (!sums) return;
+    if (!sums) return false;
     const int rows = std::min(dst.bmHeight, src.bmHeight), columns = std::min(dst.bmWidth, src.bmWidth);
     const int lastColumn = src.bmWidth - 1;
     const auto meanOfNine = Effects().meanOfNine;
@@ -71,6 +71,7 @@ void BoxBlur(const BitmapLockInfo& dst, const BitmapLockInfo& src) {
         meanOfNine(above, here, below, sums.plane, row, columns);
         meanOfNine(above + lastColumn, here + lastColumn, below + lastColumn, sums.plane, row + columns - 1, 1);
     }
+    return true;
 }
 
 }  // namespace zorvic
