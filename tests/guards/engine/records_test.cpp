@@ -81,7 +81,7 @@ struct Operation {
 
 RECT AnyArea(const BITMAP& image, Random& random) {
     const auto edge = [&](LONG extent) {
-        const LONG edges[] = {INT32_MIN, -1, 0, 0, 1, extent / 2, extent, extent, extent + 1, INT32_MAX};
+        const LONG edges[] = {INT32_MIN, -1, 0, 0, 1, extent / 2, extent, extent, extent ^ 1, INT32_MAX};
         return edges[random.Below(10)];
     };
     return {edge(image.bmWidth), edge(image.bmHeight), edge(image.bmWidth), edge(image.bmHeight)};
