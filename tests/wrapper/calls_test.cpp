@@ -1,474 +1,239 @@
-// The functions of the C++ wrapper against the exports that they stand for, family by family: they must make the same
-// calls with the arguments in their places, so that answers and pixels are the same.
-#include <functional>
-#include <sstream>
-
-#include "support/host.h"
-#include "wrapper/import_trace.h"
-#include "zorvic/zorvic.hpp"
+// The functions of the C++ wrapper, family by family: which exports they call with which arguments, and that their
+// answers are the exports'.
+#include "wrapper/call_spy.h"
 
 namespace {
 
 using namespace zorvic;
 
-// Objects to work on, always made alike, and what calls answered.
-struct World {
-    World() {
-        host::Fill(canvas.Surface().Get(), host::PremultipliedPattern{1});
-        host::Fill(other.Surface().Get(), host::PremultipliedPattern{2});
-        host::Fill(bitmap.Get(), host::PremultipliedPattern{3});
-        host::Fill(texture.Get(), host::PremultipliedPattern{4});
-        for (const BitmapRef& surface : {BitmapRef(bitmap), BitmapRef(texture), other.Surface()})
-            surface.SetOperation(Operation::sourceOver);
-        texture.SetSlices(slices);
-        texture.SetLayout(Layout::nineGrid, margins);
-        canvas.SetViewportOrigin(1, 2);
-        host::Fill(system.Get(), host::Pattern{5});
-        LockBitmapBits(system.Get(), &image, nullptr);
-        LockBitmapBits(ofTexture, &ofTextureImage, nullptr);
+class WrapperCalls : public SpyingTest {
+protected:
+    WrapperCalls() {
+        spy.Name("canvas other bitmap texture path gradient",
+                 {canvas.Get(), other.Get(), bitmap.Get(), texture.Get(), path.Get(), gradient.Get()});
+        spy.Name("a b m corner points lengths", {&a, &b, &m, &corner, points, lengths});
+        spy.Name("image second params before color", {&image, &second, &params, &before, &color});
+        LockBitmapBits(bitmap.Get(), &image, nullptr);
+        LockBitmapBits(BitmapRef(texture).Get(), &second, nullptr);
+        spy.Calls();
     }
 
-    void Note(double answer) { answers << answer << ' '; }
-    void Note(const RECT& rect) { answers << host::ToText(rect); }
-    void Note(const POINT& point) { Note(RECT{point.x, point.y, 0, 0}); }
-    void Note(const SIZE& size) { Note(RECT{0, 0, size.cx, size.cy}); }
-    void Note(HBITMAP handle) { Note(handle != nullptr); }
-    void Note(const Bitmap& made) { Show(made); }
-    void Note(const Texture& made) { Show(made); }
-    void Show(BitmapRef surface) {
-        const host::Snapshot pixels(surface.Get());
-        for (const DWORD word : pixels.words) answers << std::hex << word << ' ';
-    }
-    std::string Outcome() {
-        for (const BitmapRef& surface :
-             {canvas.Surface(), other.Surface(), BitmapRef(bitmap), BitmapRef(texture), BitmapRef(system)})
-            Show(surface);
-        return answers.str();
+    void ExpectCalls(const std::string& calls) { EXPECT_EQ(spy.Calls(), calls); }
+    // The answer is what the last call wrote, else its result.
+    template <class Answer>
+    void Is(Answer answer, const std::string& calls) {
+        EXPECT_EQ(spy.Calls(), calls + ';');
+        const bool written = !spy.Output().empty() && !std::is_same_v<Answer, bool>;
+        EXPECT_EQ(ToText(answer), written ? spy.Output() : spy.Result()) << calls;
+        { [[maybe_unused]] const Answer end(std::move(answer)); }
+        spy.Calls();
     }
 
-    const RECT dst{3, 4, 31, 24}, src{2, 1, 12, 9}, margins{2, 3, 4, 5}, part{1, 2, 19, 17};
-    const RECT slices[2] = {{0, 0, 8, 8}, {1, 2, 20, 18}};
+    // Two rectangles and margins.
+    const RECT a{3, 4, 31, 24}, b{2, 1, 12, 9}, m{2, 3, 4, 5};
     const POINT corner{7, 3}, points[4] = {{2, 30}, {20, 26}, {33, 36}, {9, 38}};
     const float lengths[2] = {4, 2};
-    Canvas canvas = Canvas::Create(48, 40), other = Canvas::Create(24, 20);
-    Bitmap bitmap = Bitmap::Create(21, 18), system = Bitmap::CreateSystem(21, 18);
-    Texture texture = Texture::Create(21, 18);
-    BITMAP image{}, ofTextureImage{};
-    // The same objects, for the exports.
-    const HGCANVAS c = canvas.Get(), o = other.Get();
-    const HGBITMAP b = bitmap.Get(), ofTexture = BitmapRef(texture).Get();
-    const HGTEXTURE t = texture.Get();
-    std::ostringstream answers;
+    const Canvas canvas = Canvas::Create(48, 40), other = Canvas::Create(24, 20);
+    const Bitmap bitmap = Bitmap::Create(21, 18);
+    const Texture texture = Texture::Create(21, 18);
+    const Path path = Path::Create();
+    const Gradient gradient = Gradient::CreateRadial(9, 30, 2, 12, 28, 19);
+    BITMAP image{}, second{};
+    TextureDrawParams params{};
+    POINT before{};
+    DWORD color = 1;
 };
-
-// Notes answers. With braces the calls are made in the order in which they are written.
-struct Noted {
-    template <class... Answers>
-    Noted(World& world, const Answers&... answers) {
-        (world.Note(answers), ...);
-    }
-};
-
-// What an export writes through its last argument.
-template <class Result, class Handle>
-Result Read(int(ZORVIC_CALL* get)(Handle, Result*), Handle handle) {
-    Result result{};
-    get(handle, &result);
-    return result;
-}
-
-class WrapperCalls : public TracedTest {
-protected:
-    void ExpectSame(const std::function<void(World&)>& wrapped, const std::function<void(World&)>& direct);
-};
-
-void WrapperCalls::ExpectSame(const std::function<void(World&)>& wrapped, const std::function<void(World&)>& direct) {
-    World ofWrapper, ofExports;
-    trace.Calls();
-    wrapped(ofWrapper);
-    const std::string calls = trace.Calls();
-    direct(ofExports);
-    EXPECT_EQ(calls, trace.Calls());
-    EXPECT_TRUE(ofWrapper.Outcome() == ofExports.Outcome()) << calls;
-    EXPECT_FALSE(calls.empty());
-}
 
 TEST_F(WrapperCalls, OfBitmaps) {
-    ExpectSame(
-        [](World& w) {
-            Noted{w,
-                  w.bitmap.Size(),
-                  w.bitmap.BitsPixel(),
-                  w.bitmap.GdiHandle(),
-                  w.bitmap.SetOperation(Operation::colorKey, 0x123456),
-                  w.bitmap.OperationWord(),
-                  w.bitmap.CopyFrom(w.texture, &w.part, &w.src)};
-            w.Note(w.bitmap.Resized(9, 30, Filter::area));
-            w.Note(w.bitmap.Transformed(Transform::rotate270));
-            w.Note(Bitmap::Create(3, 2, 8, 4).BitsPixel());
-            DeleteObject(w.bitmap.CreateRgn(&w.part));
-        },
-        [](World& w) {
-            Noted{w,
-                  Read(GetBitmapSize, w.b),
-                  Read(GetBitmapBitsPixel, w.b),
-                  GetBitmapHandle(w.b),
-                  SetBitmapFilter(w.b, ZORVIC_OP_COLOR_KEY | 0x123456),
-                  Read(GetBitmapFilter, w.b),
-                  CopyBitmap(w.b, &w.part, w.ofTexture, &w.src)};
-            w.Note(Bitmap(ResizeBitmap(w.b, 9, 30, ZORVIC_FILTER_AREA)));
-            w.Note(Bitmap(TransformBitmap(w.b, ZORVIC_TRANSFORM_ROTATE_270)));
-            w.Note(Read(GetBitmapBitsPixel, Bitmap(CreateMemBitmapEx(3, 2, 8, 4)).Get()));
-            DeleteObject(CreateTextureRgn(reinterpret_cast<HGTEXTURE>(w.b), &w.part));
-        });
-    ExpectSame(
-        [](World& w) {
-            Noted{w,
-                  w.bitmap.Gray(),
-                  w.bitmap.ShuffleChannels(Shuffle::colorToAlpha, &w.part),
-                  w.texture.Invert(),
-                  w.texture.Normalize(),
-                  w.bitmap.BlurFrom(w.texture),
-                  w.texture.Dark(),
-                  w.other.Surface().Light()};
-        },
-        [](World& w) {
-            Noted{w,
-                  GrayBitmap(w.b),
-                  ShuffleBitmapEx(w.b, &w.part, ZORVIC_SHUFFLE_COLOR_TO_ALPHA),
-                  InvertBitmap(w.ofTexture),
-                  NormalizeBitmap(w.ofTexture),
-                  BlurBitmap(w.b, w.ofTexture),
-                  DarkBitmap(w.ofTexture),
-                  LightBitmap(GetBitmap(w.o))};
-        });
+    Is(Bitmap::Create(3, 2), "CreateMemBitmap 3 2");
+    Is(Bitmap::Create(3, 2, 8, 4), "CreateMemBitmapEx 3 2 8 4");
+    Is(Bitmap::CreateSystem(3, 2), "CreateSystemBitmap 3 2");
+    Is(bitmap.Size(), "GetBitmapSize bitmap {0 0}");
+    Is(bitmap.BitsPixel(), "GetBitmapBitsPixel bitmap &");
+    Is(bitmap.GdiHandle(), "GetBitmapHandle bitmap");
+    Is(bitmap.SetOperation(Operation::colorKey, 0x123456), "SetBitmapFilter bitmap 2123456");
+    Is(bitmap.OperationWord(), "GetBitmapFilter bitmap &");
+    Is(bitmap.CopyFrom(texture, &a, &b), "CopyBitmap bitmap a texture b");
+    Is(bitmap.Resized(9, 30, Filter::area), "ResizeBitmap bitmap 9 30 5");
+    Is(bitmap.Transformed(Transform::rotate270), "TransformBitmap bitmap 3");
+    Is(bitmap.CreateRgn(&b), "CreateTextureRgn bitmap b");
+    Is(bitmap.Gray(), "GrayBitmap bitmap");
+    Is(bitmap.Invert(), "InvertBitmap bitmap");
+    Is(bitmap.Normalize(), "NormalizeBitmap bitmap");
+    Is(bitmap.ShuffleChannels(Shuffle::colorToAlpha, &b), "ShuffleBitmapEx bitmap b 6");
+    Is(bitmap.BlurFrom(texture), "BlurBitmap bitmap texture");
+    Is(bitmap.Light(), "LightBitmap bitmap");
+    Is(bitmap.Dark(), "DarkBitmap bitmap");
 }
 
 TEST_F(WrapperCalls, OfTextures) {
-    ExpectSame(
-        [](World& w) {
-            Noted{w,
-                  w.texture.ImageSize(),
-                  w.texture.Size(),
-                  w.texture.CurrentSlice(),
-                  w.texture.SelectSlice(0),
-                  w.texture.SliceCount(),
-                  w.texture.Mode().margins,
-                  w.texture.SetSlices({})};
-            w.Note(w.texture.Resized(9, 30, Filter::nearest));
-            w.Note(w.texture.Transformed(Transform::antiTranspose));
-            Noted{w, w.texture.TranslateColor(0, 0x80402010), w.texture.Colorize(.25F, -.5F, .125F)};
-            Noted{w, w.texture.Light(), w.texture.Gray(), w.canvas.View()};
-        },
-        [](World& w) {
-            Noted{w,
-                  Read(GetTextureSize, w.t),
-                  Read(GetBitmapSize, w.ofTexture),
-                  Read(GetTextureCurSlice, w.t),
-                  SetTextureCurSlice(w.t, 0),
-                  GetTextureSliceCount(w.t),
-                  Read(GetTextureMode, w.t).margins,
-                  SetTextureSlice(w.t, 0, nullptr)};
-            w.Note(Texture(ResizeTexture(w.t, 9, 30, ZORVIC_FILTER_NEAREST)));
-            w.Note(Texture(TransformTexture(w.t, ZORVIC_TRANSFORM_ANTI_TRANSPOSE)));
-            Noted{w, TranslateTexture(w.t, 0, 0x80402010), ColorizeTexture(w.t, .25F, -.5F, .125F)};
-            Noted{w, LightTexture(w.t), GrayTexture(w.t), Texture(GetTexture(w.c))};
-        });
+    const RECT slices[] = {a, b};
+    Is(Texture::Create(3, 2, 8, 4), "CreateTextureEx 3 2 8 4");
+    Is(texture.ImageSize(), "GetTextureSize texture {0 0}");
+    Is(texture.SetLayout(Layout::topTile, m, 9), "SetTextureMode texture {5 9 {2 3 4 5}}");
+    Is(texture.Mode(), "GetTextureMode texture {0 0 {0 0 0 0}}");
+    Is(texture.SetSlices(slices), "SetTextureSlice texture 2 {3 4 31 24}");
+    Is(texture.SelectSlice(0), "SetTextureCurSlice texture 0");
+    Is(texture.CurrentSlice(), "GetTextureCurSlice texture {0 0 0 0}");
+    Is(texture.SliceCount(), "GetTextureSliceCount texture");
+    Is(texture.Resized(9, 30, Filter::nearest), "ResizeTexture texture 9 30 0");
+    Is(texture.Transformed(Transform::antiTranspose), "TransformTexture texture 7");
+    Is(texture.TranslateColor(1, 0x80402010), "TranslateTexture texture 1 80402010");
+    Is(texture.Colorize(.25F, -.5F, .125F), "ColorizeTexture texture 0.25 -0.5 0.125");
+    Is(texture.Gray(), "GrayTexture texture");
+    Is(texture.Light(), "LightTexture texture");
 }
 
 TEST_F(WrapperCalls, OfCanvasesAndTheirCoordinates) {
     const HWND window = GetDesktopWindow();
-    ExpectSame(
-        [=](World& w) {
-            POINT before{};
-            Noted{w, w.canvas.Size(), w.canvas.SetWindowOrigin(4, 3, &before), before, w.canvas.WindowOrigin()};
-            Noted{w, w.canvas.SetViewportOrigin(6, 5, &before), before, w.canvas.ViewportOrigin()};
-            Noted{w,
-                  w.canvas.ToSurface(w.dst),
-                  w.canvas.ToLogical(w.src),
-                  w.canvas.SetClip(w.dst),
-                  w.canvas.IntersectClip(w.part),
-                  w.canvas.Clip()};
-            DWORD color = 1;
-            Noted{w, w.canvas.SetBkColor(0xFF123456, &color), color, w.canvas.BkColor()};
-            Noted{w, w.canvas.SetOperation(Operation::colorKey, 0x654321), w.canvas.OperationWord()};
-            Noted{w, w.canvas.SetWindow(window) == nullptr, w.canvas.Window() == window, w.canvas.Dc() != nullptr};
-            Noted{w, Canvas::CreateSystem(3, 2, w.canvas).OperationWord(), Canvas::FromDc(w.canvas.Dc()).Size()};
-        },
-        [=](World& w) {
-            POINT before{};
-            Noted{w, Read(GetCanvasSize, w.c), SetWindowOrg(w.c, 4, 3, &before), before, Read(GetWindowOrg, w.c)};
-            Noted{w, SetViewportOrg(w.c, 6, 5, &before), before, Read(GetViewportOrg, w.c)};
-            RECT toDevice = w.dst, toWindow = w.src;
-            WindowToDevice(w.c, &toDevice);
-            DeviceToWindow(w.c, &toWindow);
-            Noted{w,
-                  toDevice,
-                  toWindow,
-                  SetCanvasClipRect(w.c, &w.dst),
-                  IntersectCanvasClipRect(w.c, &w.part),
-                  Read(GetCanvasClipRect, w.c)};
-            DWORD color = 1;
-            Noted{w, SetCanvasBkColor(w.c, 0xFF123456, &color), color, Read(GetCanvasBkColor, w.c)};
-            Noted{w, SetCanvasFilter(w.c, ZORVIC_OP_COLOR_KEY | 0x654321), Read(GetCanvasFilter, w.c)};
-            Noted{w, SetCanvasWindow(w.c, window) == nullptr, GetCanvasWindow(w.c) == window,
-                  GetCanvasHandle(w.c) != nullptr};
-            Noted{w, Read(GetCanvasFilter, Canvas(CreateSystemCanvas(3, 2, w.c)).Get()),
-                  Read(GetCanvasSize, Canvas(CreateCanvasFromDC(GetCanvasHandle(w.c))).Get())};
-        });
+    Is(Canvas::Create(3, 2, other), "CreateCanvas 3 2 other");
+    Is(Canvas::CreateSystem(3, 2, other), "CreateSystemCanvas 3 2 other");
+    Is(canvas.Surface(), "GetBitmap canvas");
+    Is(canvas.View(), "GetTexture canvas");
+    Is(canvas.Size(), "GetCanvasSize canvas {0 0}");
+    Is(canvas.SetViewportOrigin(6, 5, &before), "SetViewportOrg canvas 6 5 before");
+    Is(canvas.ViewportOrigin(), "GetViewportOrg canvas {0 0}");
+    Is(canvas.SetWindowOrigin(4, 3, &before), "SetWindowOrg canvas 4 3 before");
+    Is(canvas.WindowOrigin(), "GetWindowOrg canvas {0 0}");
+    Is(canvas.ToSurface(a), "WindowToDevice canvas {3 4 31 24}");
+    Is(canvas.ToLogical(a), "DeviceToWindow canvas {3 4 31 24}");
+    Is(canvas.SetClip(a), "SetCanvasClipRect canvas a");
+    Is(canvas.IntersectClip(b), "IntersectCanvasClipRect canvas b");
+    Is(canvas.Clip(), "GetCanvasClipRect canvas {0 0 0 0}");
+    Is(canvas.SetBkColor(0xFF123456, &color), "SetCanvasBkColor canvas ff123456 color");
+    Is(canvas.BkColor(), "GetCanvasBkColor canvas &");
+    Is(canvas.SetOperation(Operation::colorKey, 0x654321), "SetCanvasFilter canvas 2654321");
+    Is(canvas.OperationWord(), "GetCanvasFilter canvas &");
+    spy.Name("window", {window});
+    Is(canvas.SetWindow(window), "SetCanvasWindow canvas window");
+    Is(canvas.Window(), "GetCanvasWindow canvas");
+    Is(canvas.Dc(), "GetCanvasHandle canvas");
+    spy.Name("dc", {canvas.Dc()});
+    spy.Calls();
+    Is(Canvas::FromDc(canvas.Dc()), "GetCanvasHandle canvas;CreateCanvasFromDC dc");
 }
 
 TEST_F(WrapperCalls, OfPictures) {
-    ExpectSame(
-        [](World& w) {
-            TextureDrawParams params{};
-            params = {ZORVIC_FILTER_NEAREST, 90, {}, 1, {}, 1, {4, 5, 0, 0}, 0, {}, 1, {}};
-            Noted{w,
-                  w.canvas.DrawBitmap(w.bitmap, 77),
-                  w.canvas.DrawBitmap(w.dst, w.bitmap, Filter::bicubic, 150),
-                  w.canvas.DrawBitmap(w.dst, w.bitmap, w.src, Filter::area, 99),
-                  w.canvas.DrawTexture(w.dst, w.texture, Filter::bilinear, 120, 2, 1.5),
-                  w.canvas.DrawTexture(w.part, w.texture, params),
-                  w.canvas.DrawModulation(4, 9, w.bitmap, 0x80204060, &w.src)};
-        },
-        [](World& w) {
-            TextureDrawParams params{};
-            params = {ZORVIC_FILTER_NEAREST, 90, {}, 1, {}, 1, {4, 5, 0, 0}, 0, {}, 1, {}};
-            Noted{w,
-                  DrawBitmapEx(w.c, nullptr, w.b, ZORVIC_FILTER_NEAREST, 77),
-                  DrawBitmapEx(w.c, &w.dst, w.b, ZORVIC_FILTER_BICUBIC, 150),
-                  DrawBitmapEx2(w.c, &w.dst, w.b, &w.src, ZORVIC_FILTER_AREA, 99),
-                  DrawTextureEx2(w.c, &w.dst, w.t, ZORVIC_FILTER_BILINEAR, 120, 2, 1.5),
-                  DrawTextureEx3(w.c, &w.part, w.t, &params, nullptr),
-                  DrawModulation(w.c, 4, 9, w.b, &w.src, 0x80204060)};
-        });
-    ExpectSame(
-        [](World& w) {
-            Noted{w, w.canvas.DrawCentered(w.dst, w.texture, &w.src, Filter::nearest, 201),
-                  w.canvas.DrawUniform(w.dst, w.texture, w.margins, false, Filter::area, 202),
-                  w.canvas.DrawNineGrid(w.dst, w.texture, w.margins, {&w.part, Filter::area, 203, true, 2, .5})};
-            w.canvas.DrawTiled(w.dst, w.texture, &w.src, Tiles::scaled, 1.5F, Filter::nearest, 204);
-            w.canvas.DrawTopTiled(w.part, w.texture, w.margins, &w.src, Filter::bicubic, 205);
-        },
-        [](World& w) {
-            Noted{w, DrawTextureCenter(w.c, &w.dst, w.t, &w.src, ZORVIC_FILTER_NEAREST, 201),
-                  DrawTextureUniform(w.c, &w.dst, w.t, &w.margins, ZORVIC_FILTER_AREA, 202, false),
-                  DrawTexture9Grid(w.c, &w.dst, w.t, &w.part, &w.margins, ZORVIC_FILTER_AREA, 1, 203, 0, 2, .5)};
-            DrawTextureTile(w.c, &w.dst, w.t, &w.src, ZORVIC_FILTER_NEAREST, 204, ZORVIC_TILE_SCALED, 1.5F);
-            DrawTextureTopTile(w.c, &w.part, w.t, &w.src, &w.margins, ZORVIC_FILTER_BICUBIC, 205);
-        });
+    Is(canvas.DrawBitmap(bitmap, 77), "DrawBitmapEx canvas null bitmap 0 77");
+    Is(canvas.DrawBitmap(a, bitmap, Filter::bicubic, 150), "DrawBitmapEx canvas a bitmap 4 150");
+    Is(canvas.DrawBitmap(a, bitmap, b, Filter::area, 99), "DrawBitmapEx2 canvas a bitmap b 5 99");
+    Is(canvas.DrawTexture(a, texture, Filter::bilinear, 120, 2, 1.5), "DrawTextureEx2 canvas a texture 1 120 2 1.5");
+    Is(canvas.DrawTexture(a, texture, params), "DrawTextureEx3 canvas a texture params null");
+    Is(canvas.DrawModulation(4, 9, bitmap, 0x80204060, &b), "DrawModulation canvas 4 9 bitmap b 80204060");
+    Is(canvas.DrawCentered(a, texture, &b, Filter::nearest, 201), "DrawTextureCenter canvas a texture b 0 201");
+    Is(canvas.DrawUniform(a, texture, m, false, Filter::area, 202), "DrawTextureUniform canvas a texture m 5 202 0");
+    Is(canvas.DrawNineGrid(a, texture, m, {&b, Filter::area, 203, true, 2, .5}),
+       "DrawTexture9Grid canvas a texture b m 5 1 203 0 2 0.5");
+    canvas.DrawTiled(a, texture, &b, Tiles::scaled, 1.5F, Filter::nearest, 204);
+    ExpectCalls("DrawTextureTile canvas a texture b 0 204 10 1.5;");
+    canvas.DrawTopTiled(a, texture, m, &b, Filter::bicubic, 205);
+    ExpectCalls("DrawTextureTopTile canvas a texture b m 4 205;");
 }
 
 TEST_F(WrapperCalls, OfCompositionAndFills) {
-    ExpectSame(
-        [](World& w) {
-            Noted{w,
-                  w.canvas.Mix(w.dst, w.other, w.src, 90),
-                  w.canvas.MixColor(w.part, 0x80102030, 60),
-                  w.canvas.Blend(w.part, w.other, w.src, 120),
-                  w.other.ScrollRows(-3),
-                  w.other.TransferTo(w.canvas.Dc(), w.dst, w.src, 130)};
-            Noted{w,
-                  w.canvas.FillSolidRect(0x40FF8000, w.part, Operation::destinationOver),
-                  w.canvas.FillPremultipliedRect(0x40302010, w.src, Operation::multiply),
-                  w.canvas.FillGradualRect(0xFF123456, 0x80FEDCBA, w.dst, GradualDirection::leftToRight),
-                  w.canvas.FillRectangle(w.src, 0x60302010),
-                  w.canvas.FillRoundRect(w.part, w.corner, 0xA0FF00FF)};
-        },
-        [](World& w) {
-            Noted{w,
-                  MixCanvas(w.c, &w.dst, w.o, &w.src, 90),
-                  MixCanvasWithColor(w.c, &w.part, 0x80102030, 60),
-                  BlendCanvas(w.c, &w.part, w.o, &w.src, 120),
-                  CanvasScroll(w.o, 0, -3),
-                  GdiTransCanvas(GetCanvasHandle(w.c), &w.dst, w.o, &w.src, 130)};
-            Noted{w,
-                  FillSolidRectEx(w.c, 0x40FF8000, &w.part, ZORVIC_OP_DESTINATION_OVER),
-                  FillPreMulColorRectEx(w.c, 0x40302010, &w.src, ZORVIC_OP_MULTIPLY),
-                  FillGradualRect(w.c, 0xFF123456, 0x80FEDCBA, &w.dst, ZORVIC_GRADUAL_LEFT_TO_RIGHT),
-                  FillRectangleEx(w.c, &w.src, 0x60302010),
-                  FillRoundRectEx(w.c, &w.part, &w.corner, 0xA0FF00FF)};
-        });
+    const HDC dc = canvas.Dc();
+    spy.Name("dc", {dc});
+    spy.Calls();
+    Is(canvas.Mix(a, other, b, 90), "MixCanvas canvas a other b 5a");
+    Is(canvas.MixColor(a, 0x80102030, 60), "MixCanvasWithColor canvas a 80102030 3c");
+    Is(canvas.Blend(a, other, b, 120), "BlendCanvas canvas a other b 120");
+    Is(canvas.ScrollRows(-3), "CanvasScroll canvas 0 -3");
+    Is(other.TransferTo(dc, a, b, 130), "GdiTransCanvas dc a other b 130");
+    Is(canvas.FillSolidRect(0x40FF8000, a, Operation::destinationOver), "FillSolidRectEx canvas 40ff8000 a 6000000");
+    Is(canvas.FillPremultipliedRect(0x40302010, a, Operation::multiply),
+       "FillPreMulColorRectEx canvas 40302010 a 3000000");
+    Is(canvas.FillGradualRect(0xFF123456, 0x80FEDCBA, a, GradualDirection::leftToRight),
+       "FillGradualRect canvas ff123456 80fedcba a 2");
+    Is(canvas.FillRectangle(a, 0x60302010), "FillRectangleEx canvas a 60302010");
+    Is(canvas.FillRoundRect(a, corner, 0xA0FF00FF), "FillRoundRectEx canvas a corner a0ff00ff");
 }
 
 TEST_F(WrapperCalls, OfOutlinesAndShapes) {
-    const HPEN pen = CreatePen(PS_SOLID, 2, RGB(200, 100, 50));
+    const auto pen = static_cast<HPEN>(GetStockObject(WHITE_PEN));
     const auto brush = static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH));
-    ExpectSame(
-        [=](World& w) {
-            Noted{w,
-                  w.canvas.OutlineRectangle(w.dst, pen, brush),
-                  w.canvas.OutlineRectangle(w.part, 0xFF20FF80, 3),
-                  w.canvas.OutlineRoundRect(w.dst, w.corner, pen),
-                  w.canvas.OutlineRoundRect(w.part, w.corner, 0xC0123456, 2),
-                  w.canvas.OutlineFocus(w.src, 0xFFFFFFFF)};
-            Noted{w,
-                  w.canvas.DrawPoint(2, 3),
-                  w.canvas.DrawLine(1, 2, 30, 9),
-                  w.canvas.DrawRectangle(2, 30, 9, 4),
-                  w.canvas.DrawRoundRect(w.part, 6, 2),
-                  w.canvas.DrawCircle(33, 9, 4),
-                  w.canvas.DrawEllipse(30, 20, 9, 14),
-                  w.canvas.DrawPolygon(w.points),
-                  w.canvas.DrawPolygon({}),
-                  w.canvas.DrawBezier(w.points[3], w.points[1], w.points[0], w.points[2]),
-                  w.canvas.DrawColor(0x30FF0000, w.src)};
-        },
-        [=](World& w) {
-            Noted{w,
-                  GeoRectangle(w.c, &w.dst, pen, brush),
-                  GeoRectangleEx(w.c, &w.part, 0xFF20FF80, 3),
-                  GeoRoundRect(w.c, &w.dst, &w.corner, pen),
-                  GeoRoundRectEx(w.c, &w.part, &w.corner, 0xC0123456, 2),
-                  GeoRectFocusEx(w.c, &w.src, 0xFFFFFFFF)};
-            Noted{w,
-                  DrawPoint(w.c, 2, 3),
-                  DrawLine(w.c, 1, 2, 30, 9),
-                  DrawRectangle(w.c, 2, 30, 9, 4),
-                  DrawRoundRect(w.c, &w.part, 6, 2),
-                  DrawCircle(w.c, 33, 9, 4),
-                  DrawEllipse(w.c, 30, 20, 9, 14),
-                  DrawPolygon(w.c, 4, w.points),
-                  DrawPolygon(w.c, 0, nullptr),
-                  DrawBezier(w.c, &w.points[3], &w.points[1], &w.points[0], &w.points[2]),
-                  DrawColor(w.c, 0x30FF0000, &w.src)};
-        });
-    DeleteObject(pen);
+    spy.Name("pen", {pen});
+    spy.Name("brush", {brush});
+    Is(canvas.OutlineRectangle(a, pen, brush), "GeoRectangle canvas a pen brush");
+    Is(canvas.OutlineRectangle(a, 0xFF20FF80, 3), "GeoRectangleEx canvas a ff20ff80 3");
+    Is(canvas.OutlineRoundRect(a, corner, pen), "GeoRoundRect canvas a corner pen");
+    Is(canvas.OutlineRoundRect(a, corner, 0xC0123456, 2), "GeoRoundRectEx canvas a corner c0123456 2");
+    Is(canvas.OutlineFocus(a, 0xFFFFFFFF), "GeoRectFocusEx canvas a ffffffff");
+    Is(canvas.DrawPoint(2, 3), "DrawPoint canvas 2 3");
+    Is(canvas.DrawLine(1, 2, 30, 9), "DrawLine canvas 1 2 30 9");
+    Is(canvas.DrawRectangle(2, 30, 9, 4), "DrawRectangle canvas 2 30 9 4");
+    Is(canvas.DrawRoundRect(a, 6, 2), "DrawRoundRect canvas a 6 2");
+    Is(canvas.DrawCircle(33, 9, 4), "DrawCircle canvas 33 9 4");
+    Is(canvas.DrawEllipse(30, 20, 9, 14), "DrawEllipse canvas 30 20 9 14");
+    Is(canvas.DrawPolygon(points), "DrawPolygon canvas 4 points");
+    Is(canvas.DrawPolygon({}), "DrawPolygon canvas 0 null");
+    Is(canvas.DrawBezier(points[3], points[1], points[0], points[2]),
+       "DrawBezier canvas {9 38} {20 26} points {33 36}");
+    Is(canvas.DrawColor(0x30FF0000, a), "DrawColor canvas 30ff0000 a");
+    Is(canvas.DrawPath(path), "DrawPath canvas path");
 }
 
 TEST_F(WrapperCalls, OfVectorStyle) {
-    // What the setters did shows in the shapes; the last one is drawn in the style that was saved.
-    const auto draw = [](World& w) {
-        DrawPolygon(w.c, 4, w.points);
-        DrawLine(w.c, 4, 5, 30, 12);
-    };
-    ExpectSame(
-        [=](World& w) {
-            {
-                const StyleScope saved = w.canvas.SaveStyle();
-                w.canvas.SetColor(0xC0408020);
-                w.canvas.SetBlendMode(BlendMode::screen);
-                w.canvas.SetBlendValue(180);
-                w.canvas.SetStrokeWidth(5);
-                Noted{w, double(w.canvas.GetBlendMode()), w.canvas.GetBlendValue(), w.canvas.GetStrokeWidth()};
-                w.canvas.SetDrawStyle(DrawStyle::stroke);
-                w.canvas.SetStrokeCap(StrokeCap::square);
-                w.canvas.SetStrokeJoin(StrokeJoin::round);
-                draw(w);
-                w.canvas.SetDashStyle(DashStyle::dashDot);
-                draw(w);
-                w.canvas.SetDashPattern(w.lengths);
-                w.canvas.SetSmooth(false);
-                draw(w);
-                const Gradient gradient = Gradient::CreateRadial(9, 30, 2, 12, 28, 19);
-                Noted{w, gradient.AddColorStop(.25F, 0xFFFF0000), gradient.AddColorStop(1, 0x400000FF)};
-                w.canvas.SetGradient(gradient);
-                w.canvas.SetDrawStyle(DrawStyle::gradient);
-                draw(w);
-            }
-            draw(w);
-        },
-        [=](World& w) {
-            Save(w.c);
-            SetColor(w.c, 0xC0408020);
-            SetBlendMode(w.c, ZORVIC_BLEND_SCREEN);
-            SetBlendValue(w.c, 180);
-            SetStrokeWidth(w.c, 5);
-            Noted{w, GetBlendMode(w.c), GetBlendValue(w.c), GetStrokeWidth(w.c)};
-            SetDrawStyle(w.c, ZORVIC_DRAW_STROKE);
-            SetStrokeCap(w.c, ZORVIC_CAP_SQUARE);
-            SetStrokeJoin(w.c, ZORVIC_JOIN_ROUND);
-            draw(w);
-            SetDashStyle(w.c, ZORVIC_DASH_DASH_DOT);
-            draw(w);
-            SetDashPattern(w.c, w.lengths, 2);
-            SetSmooth(w.c, 0);
-            draw(w);
-            const HGGRADIENT gradient = GradientCreateRadial(9, 30, 2, 12, 28, 19);
-            Noted{w, GradientAddColorStop(gradient, .25F, 0xFFFF0000), GradientAddColorStop(gradient, 1, 0x400000FF)};
-            SetGradient(w.c, gradient);
-            SetDrawStyle(w.c, ZORVIC_DRAW_GRADIENT);
-            draw(w);
-            GradientDestroy(gradient);
-            Restore(w.c);
-            draw(w);
-        });
+    {
+        const StyleScope saved = canvas.SaveStyle();
+        canvas.SetColor(0xC0408020);
+        canvas.SetGradient(gradient);
+        canvas.SetBlendMode(BlendMode::screen);
+        canvas.SetBlendValue(180);
+        canvas.SetStrokeWidth(5);
+        ExpectCalls(
+            "Save canvas;SetColor canvas c0408020;SetGradient canvas gradient;SetBlendMode canvas 13;SetBlendValue "
+            "canvas 180;SetStrokeWidth canvas 5;");
+        Is(canvas.GetBlendMode(), "GetBlendMode canvas");
+        Is(canvas.GetBlendValue(), "GetBlendValue canvas");
+        Is(canvas.GetStrokeWidth(), "GetStrokeWidth canvas");
+        canvas.SetDrawStyle(DrawStyle::stroke);
+        canvas.SetStrokeCap(StrokeCap::square);
+        canvas.SetStrokeJoin(StrokeJoin::round);
+        canvas.SetDashStyle(DashStyle::dashDot);
+        canvas.SetDashPattern(lengths);
+        canvas.SetSmooth(false);
+    }
+    ExpectCalls(
+        "SetDrawStyle canvas 1;SetStrokeCap canvas 2;SetStrokeJoin canvas 1;SetDashStyle canvas 3;SetDashPattern "
+        "canvas lengths 2;SetSmooth canvas 0;Restore canvas;");
 }
 
-TEST_F(WrapperCalls, OfPaths) {
-    ExpectSame(
-        [](World& w) {
-            const Path path = Path::Create();
-            Noted{w,
-                  path.MoveTo(3, 4),
-                  path.LineTo(30, 11),
-                  path.ArcTo(40, 12, 33, 25, 5),
-                  path.BezierCurveTo(30, 31, 22, 35, 14, 27),
-                  path.QuadraticCurveTo(5, 30, 7, 14),
-                  path.Close(),
-                  path.AddArc(30, 20, 9, 1, 2.5F, true),
-                  path.Begin(),
-                  path.AddRectangle(2, 30, 9, 4),
-                  path.AddCircle(40, 7, 3),
-                  path.AddEllipse(30, 30, 9, 5),
-                  w.canvas.DrawPath(path)};
-            const auto [left, top, right, bottom] = path.Bounds();
-            Noted{w, left, top, right, bottom};
-        },
-        [](World& w) {
-            const HGPATH path = PathCreate();
-            Noted{w,
-                  PathMoveTo(path, 3, 4),
-                  PathLineTo(path, 30, 11),
-                  PathArcTo(path, 40, 12, 33, 25, 5),
-                  PathBezierCurveTo(path, 30, 31, 22, 35, 14, 27),
-                  PathQuadraticCurveTo(path, 5, 30, 7, 14),
-                  PathClose(path),
-                  PathAddArc(path, 30, 20, 9, 1, 2.5F, 1),
-                  PathBegin(path),
-                  PathAddRectangle(path, 2, 30, 9, 4),
-                  PathAddCircle(path, 40, 7, 3),
-                  PathAddEllipse(path, 30, 30, 9, 5),
-                  DrawPath(w.c, path)};
-            const auto [left, top, right, bottom] = Read(PathGetBounds, path);
-            Noted{w, left, top, right, bottom};
-            PathDestroy(path);
-        });
+TEST_F(WrapperCalls, OfPathsAndGradients) {
+    Is(path.MoveTo(3, 4), "PathMoveTo path 3 4");
+    Is(path.LineTo(30, 11), "PathLineTo path 30 11");
+    Is(path.ArcTo(40, 12, 33, 25, 5), "PathArcTo path 40 12 33 25 5");
+    Is(path.BezierCurveTo(30, 31, 22, 35, 14, 27), "PathBezierCurveTo path 30 31 22 35 14 27");
+    Is(path.QuadraticCurveTo(5, 30, 7, 14), "PathQuadraticCurveTo path 5 30 7 14");
+    Is(path.Close(), "PathClose path");
+    Is(path.AddArc(30, 20, 9, 1, 2.5F, true), "PathAddArc path 30 20 9 1 2.5 1");
+    Is(path.Begin(), "PathBegin path");
+    Is(path.AddRectangle(2, 30, 9, 4), "PathAddRectangle path 2 30 9 4");
+    Is(path.AddCircle(40, 7, 3), "PathAddCircle path 40 7 3");
+    Is(path.AddEllipse(30, 30, 9, 5), "PathAddEllipse path 30 30 9 5");
+    Is(path.Bounds(), "PathGetBounds path {0 0 0 0}");
+    Is(Gradient::CreateLinear(1, 2, 3, 4), "GradientCreateLinear 1 2 3 4");
+    Is(Gradient::CreateRadial(9, 30, 2, 12, 28, 19), "GradientCreateRadial 9 30 2 12 28 19");
+    Is(gradient.AddColorStop(.25F, 0xFFFF0000), "GradientAddColorStop gradient 0.25 ffff0000");
 }
 
 TEST_F(WrapperCalls, OfMemoryAndSettings) {
-    ExpectSame(
-        [](World& w) {
-            BitmapLockInfo locked{};
-            LockBitmapBitsEx(w.b, &locked, nullptr);
-            Noted{w,
-                  MirrorPixels(w.image, MirrorAxis::horizontal),
-                  BlurPixels(w.image, 3),
-                  BlendPixels(w.ofTextureImage, w.image),
-                  OrPixels(w.image, w.image, 0x00102030),
-                  AndPixels(w.image, w.image, 0xFFF0F7FF),
-                  MirrorPixels(w.image, w.ofTextureImage, MirrorAxis::both),
-                  NormalizePixels(locked)};
-            Noted{w, CopyPixels(w.image, w.ofTextureImage, &w.part), FillPixels(w.image, 0x11223344, true)};
-            Noted{w, SetStretchKernel(StretchKernel::cubicConvolution), double(GetStretchKernel()),
-                  SetStretchKernel(StretchKernel::bSpline), RegisterResourceManager(nullptr) == nullptr};
-        },
-        [](World& w) {
-            BitmapLockInfo locked{};
-            LockBitmapBitsEx(w.b, &locked, nullptr);
-            BITMAP& image = w.image;
-            Noted{w,
-                  Mirror(&image, ZORVIC_MIRROR_HORIZONTAL),
-                  BlurBitmapData(21, 18, image.bmWidthBytes, image.bmBits, 32, 3),
-                  AlphaBlend_IPP(&w.ofTextureImage, &image),
-                  ARGBOrBitmap_IPP(&image, &image, 0x00102030),
-                  ARGBAndBitmap_IPP(&image, &image, 0xFFF0F7FF),
-                  MirrorEx(&image, &w.ofTextureImage, ZORVIC_MIRROR_BOTH),
-                  NormalizeBitmap2(&locked)};
-            Noted{w, CopyBitmap_IPP(&image, &w.ofTextureImage, &w.part), SetColor_IPP(&image, 0x11223344, 1)};
-            Noted{w, SetStretchKernelMode(ZORVIC_KERNEL_CUBIC_CONVOLUTION), GetStretchKernelMode(),
-                  SetStretchKernelMode(ZORVIC_KERNEL_B_SPLINE), RegisterD2DResoureMgr(nullptr) == nullptr};
-        });
+    BitmapLockInfo locked{};
+    LockBitmapBitsEx(bitmap.Get(), &locked, nullptr);
+    spy.Name("locked", {&locked});
+    spy.Name("bits", {image.bmBits});
+    spy.Calls();
+    Is(CopyPixels(image, second, &b), "CopyBitmap_IPP image second b");
+    Is(MirrorPixels(image, MirrorAxis::both), "Mirror image 2");
+    Is(MirrorPixels(image, second, MirrorAxis::horizontal), "MirrorEx image second 1");
+    Is(BlendPixels(image, second), "AlphaBlend_IPP image second");
+    Is(FillPixels(image, 0x11223344, true), "SetColor_IPP image 11223344 1");
+    Is(OrPixels(image, second, 0x00102030), "ARGBOrBitmap_IPP image second 102030");
+    Is(AndPixels(image, second, 0xFFF0F7FF), "ARGBAndBitmap_IPP image second fff0f7ff");
+    Is(BlurPixels(image, 3), "BlurBitmapData 21 18 84 bits 32 3");
+    Is(NormalizePixels(locked), "NormalizeBitmap2 locked");
+    Is(SetStretchKernel(StretchKernel::bSpline), "SetStretchKernelMode 1");
+    Is(GetStretchKernel(), "GetStretchKernelMode");
+    Is(RegisterResourceManager(nullptr), "RegisterD2DResoureMgr null");
 }
 
 }  // namespace

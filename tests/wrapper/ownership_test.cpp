@@ -3,7 +3,7 @@
 #include <type_traits>
 
 #include "support/recorder.h"
-#include "wrapper/import_trace.h"
+#include "wrapper/call_spy.h"
 #include "zorvic/zorvic.hpp"
 
 namespace {
@@ -25,18 +25,19 @@ static_assert(!std::is_copy_constructible_v<Bitmap> && !std::is_convertible_v<HG
 static_assert(!std::is_convertible_v<zorvic::BitmapRef, zorvic::TextureRef>, "not every bitmap is a texture");
 static_assert(std::is_convertible_v<Texture&, zorvic::BitmapRef> && sizeof(Canvas) == sizeof(HGCANVAS));
 
-class WrapperOwners : public TracedTest {
+class WrapperOwners : public SpyingTest {
 protected:
     template <class Owner>
-    void EndsOnce(const char* deleter, Owner first, Owner second);
+    void EndsOnce(const std::string& deleter, Owner first, Owner second);
 };
-class WrapperLocks : public TracedTest {};
+class WrapperLocks : public SpyingTest {};
 
 template <class Owner>
-void WrapperOwners::EndsOnce(const char* deleter, Owner first, Owner second) {
+void WrapperOwners::EndsOnce(const std::string& deleter, Owner first, Owner second) {
     ASSERT_TRUE(first && second);
-    trace.Calls();
     const auto handle = first.Get();
+    spy.Name("first second", {handle, second.Get()});
+    spy.Calls();
     {
         Owner moved(std::move(first));
         EXPECT_FALSE(first);
@@ -46,14 +47,14 @@ void WrapperOwners::EndsOnce(const char* deleter, Owner first, Owner second) {
         first = std::move(self);
         EXPECT_EQ(first.Get(), handle);
     }
-    EXPECT_EQ(trace.Calls(), "") << deleter << " while nothing ended";
+    EXPECT_EQ(spy.Calls(), "") << deleter << " while nothing ended";
     second = std::move(first);
-    EXPECT_EQ(trace.Calls(), deleter) << "the former object";
+    EXPECT_EQ(spy.Calls(), deleter + " second;") << "the former object";
     { const Owner end(second.Release()); }
-    EXPECT_EQ(trace.Calls(), deleter) << "at the end of the scope";
+    EXPECT_EQ(spy.Calls(), deleter + " first;");
     second.Reset();
     first.Reset();
-    EXPECT_EQ(trace.Calls(), "") << "nothing was left";
+    EXPECT_EQ(spy.Calls(), "") << "nothing was left";
 }
 
 TEST_F(WrapperOwners, EndWhatTheyOwnOnce) {
@@ -71,12 +72,13 @@ TEST_F(WrapperOwners, ConversionsUseTheirArgumentUp) {
     Canvas canvas = Canvas::Create(5, 3);
     canvas.SetOperation(zorvic::Operation::sourceOver);
     host::Fill(canvas.Surface().Get(), host::PremultipliedPattern{});
+    spy.Name("bitmap canvas", {bitmap.Get(), canvas.Get()});
     {
-        trace.Calls();
+        spy.Calls();
         const Texture fromBitmap = ToTexture(std::move(bitmap));
         const Texture fromCanvas = ToTexture(std::move(canvas));
         EXPECT_FALSE(bitmap || canvas);
-        EXPECT_EQ(trace.Calls(), "BitmapToTexture CanvasToTexture");
+        EXPECT_EQ(spy.Calls(), "BitmapToTexture bitmap;CanvasToTexture canvas;");
         EXPECT_TRUE(host::Shows(fromBitmap.Get(), host::Pattern{}));
         EXPECT_TRUE(host::Shows(fromCanvas.Get(), host::PremultipliedPattern{}));
     }
@@ -102,8 +104,9 @@ TEST_F(WrapperLocks, GiveRowsOfTheSurfacesPixels) {
 
 TEST_F(WrapperLocks, EndOnceAndTellOfChanges) {
     const Bitmap bitmap = Bitmap::Create(4, 4);
+    spy.Name("bitmap", {bitmap.Get()});
     host::Recorder manager;
-    trace.Calls();
+    spy.Calls();
     {
         PixelLock quiet = bitmap.Lock();
         PixelLock lock = bitmap.Lock();
@@ -115,14 +118,16 @@ TEST_F(WrapperLocks, EndOnceAndTellOfChanges) {
         EXPECT_EQ(manager.log, "") << "the first lock ended, of which nothing was to be told";
     }
     EXPECT_EQ(manager.log, "change 7;");
-    EXPECT_EQ(trace.Calls(), "LockBitmapBitsEx LockBitmapBitsEx UnlockBitmapBits UnlockBitmapBits");
+    EXPECT_EQ(spy.Calls(),
+              "LockBitmapBitsEx bitmap & null;LockBitmapBitsEx bitmap & null;UnlockBitmapBits bitmap 0 0;"
+              "UnlockBitmapBits bitmap 7 1;");
 
     const RECT outside{0, 0, 5, 5};
     for (const PixelLock& refused : {bitmap.Lock(&outside), PixelLock(nullptr)}) {
         EXPECT_FALSE(refused);
         EXPECT_TRUE(refused.Row(0).empty());
     }
-    EXPECT_EQ(trace.Calls(), "LockBitmapBitsEx LockBitmapBitsEx");
+    EXPECT_EQ(spy.Calls(), "LockBitmapBitsEx bitmap & {0 0 5 5};LockBitmapBitsEx null & null;");
 }
 
 }  // namespace
