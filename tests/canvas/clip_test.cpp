@@ -31,7 +31,7 @@ const Kind kinds[] = {
 };
 
 testing::AssertionResult PaintsExactly(const OwnedCanvas& canvas, const RECT& device) {
-    Fill(canvas.get(), [](int, int) { return 0U; });
+    Fill(canvas.get(), Plain{});
     FillPreMulColorRectEx(canvas.get(), ink, &everything, ZORVIC_OP_COPY);
     return Shows(canvas.get(), [&](int x, int y) { return Inside(device, x, y) ? ink : 0; });
 }
@@ -116,7 +116,7 @@ TEST(CanvasClip, BindsGdiToo) {
     SetCanvasClipRect(canvas.get(), &clip);
     const HDC dc = GetCanvasHandle(canvas.get());  // a clip set before, and one set after, it is made
     for (const RECT device : {RECT{5, 6, 13, 13}, RECT{8, 9, 20, 10}}) {
-        Fill(canvas.get(), [](int, int) { return 0U; });
+        Fill(canvas.get(), Plain{});
         PatBlt(dc, -100, -100, 200, 200, WHITENESS);
         EXPECT_TRUE(Shows(canvas.get(), [&](int x, int y) { return Inside(device, x, y) ? 0xFFFFFFFF : 0; }));
         clip = {3, 3, 15, 4};
@@ -131,7 +131,7 @@ TEST(CanvasClip, OfAHostsDeviceContext) {
     const OwnedCanvas canvas(CreateCanvasFromDC(dib.Dc()));
     EXPECT_EQ(ClipOf(canvas), (RECT{-5, -6, 35, 24}));
     const auto paintsExactly = [&](const RECT& device) {
-        dib.Fill([](int, int) { return 0U; });
+        dib.Fill(Plain{});
         FillPreMulColorRectEx(canvas.get(), ink, &everything, ZORVIC_OP_COPY);
         return Shows(dib.Shown().get(), [&](int x, int y) { return Inside(device, x, y) ? ink : 0; });
     };

@@ -73,7 +73,7 @@ TEST(CanvasGdi, DrawsOnTheRightRows) {
             for (int bottom = top + 1; bottom <= 9; ++bottom) {
                 SCOPED_TRACE(testing::Message() << target.name << ", rows " << top << " to " << bottom);
                 const GdiBitmap bitmap = target.make(13, 9);
-                bitmap.Fill([](int, int) { return 0U; });  // every row alike
+                bitmap.Fill(Plain{});  // every row alike
                 const OwnedCanvas canvas(CreateCanvasFromDC(bitmap.Dc()));
                 const RECT rows{0, top, 13, bottom};
                 SetCanvasClipRect(canvas.get(), &rows);

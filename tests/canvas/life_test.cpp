@@ -7,7 +7,7 @@ using namespace host;
 
 namespace {
 
-constexpr auto nothing = [](int, int) { return 0U; };
+constexpr auto nothing = Plain{};
 
 DWORD FilterOf(HGCANVAS canvas) {
     DWORD filter = 0;

@@ -102,14 +102,14 @@ TEST(NineGrid, FillsItsCentreWithOnePixelOfTheTexture) {
         for (const DWORD operation : {0x00000000UL, 0x01000000UL, 0x02ABCDEFUL, 0x03000000UL, 0x06000000UL})
             for (const BYTE alpha : {BYTE{255}, BYTE{100}, BYTE{0}}) {
                 SetTextureFilter(skin.get(), operation);
-                const OwnedCanvas wanted = MakeCanvas(wholeView);
+                const OwnedCanvas wanted = MakeTarget();
                 for (const Piece& piece : Grid({2, 8, 94, 102}, {3, 10, 74, 83}, {10, 16, 62, 70}, {5, 12, 36, 45}))
                     if (!(piece.dst == center))
                         DrawBitmapEx2(wanted.get(), &piece.dst, AsBitmap(skin.get()), &piece.src, 0, alpha);
                 const DWORD scaled = FromChannels([&](int i) { return Channel(pixel, i) * (alpha + 1) >> 8; });
                 FillPreMulColorRectEx(wanted.get(), operation == ZORVIC_OP_MULTIPLY ? pixel : scaled, &center,
                                       operation);
-                const OwnedCanvas canvas = MakeCanvas(wholeView);
+                const OwnedCanvas canvas = MakeTarget();
                 EXPECT_EQ(DrawTexture9Grid(canvas.get(), &dst, skin.get(), &slice, &margins, 0, 7, alpha, 0, 1, 1), 1);
                 EXPECT_TRUE(Shows(canvas.get(), Snapshot(wanted.get())))
                     << "depth " << depth << " operation " << operation << " alpha " << int{alpha};

@@ -1,5 +1,5 @@
 // Layouts are compared piece by piece: a layout must have the pixels of the DrawBitmapEx2 calls for its pieces, whatever
-// the operation, filter, opacity, clip and origin.
+// the operation, filter and opacity.
 #pragma once
 
 #include <array>
@@ -21,13 +21,8 @@ std::vector<Piece> Grid(const Edges& xs, const Edges& ys, const Edges& srcXs, co
 // 100 x 60 pixels of 32 bits.
 OwnedTexture MakeSkin();
 
-// The canvas that pieces are drawn to: 120 x 100 pixels, not empty, seen through a clip and an origin.
-struct View {
-    RECT clip;
-    POINT viewport;
-};
-inline constexpr View wholeView{{0, 0, 120, 100}, {0, 0}};
-OwnedCanvas MakeCanvas(const View& view);
+// What pieces are drawn to: 120 x 100 pixels, not empty.
+OwnedCanvas MakeTarget();
 
 using Draw = std::function<int(HGCANVAS canvas, DWORD filter, BYTE alpha)>;
 

@@ -10,37 +10,11 @@ constexpr DWORD red = 0xFFFF0000;
 
 OwnedTexture MakeTexture(int width, int height, DWORD color) {
     OwnedTexture texture(CreateTexture(width, height));
-    Fill(texture.get(), [&](int, int) { return color; });
+    Fill(texture.get(), Plain{color});
     return texture;
 }
 
 }  // namespace
-
-TEST(Vector, ShapesLandAtTheOrigins) {
-    const OwnedCanvas canvas(CreateCanvas(20, 10, nullptr));
-    SetViewportOrg(canvas.get(), 10, 0, nullptr);
-    SetWindowOrg(canvas.get(), 4, 0, nullptr);
-    SetColor(canvas.get(), red);
-    EXPECT_EQ(DrawPoint(canvas.get(), 0, 0), 1);
-    EXPECT_EQ(DrawRectangle(canvas.get(), 2, 3, 4, 5), 1);
-    EXPECT_TRUE(Shows(canvas.get(), [](int x, int y) {
-        return (x == 6 && y == 0) || Inside({8, 3, 12, 8}, x, y) ? red : 0;
-    }));
-}
-
-TEST(Vector, TheClipHoldsForOneShapeOnly) {
-    const OwnedCanvas canvas(CreateCanvas(20, 20, nullptr));
-    const RECT clip{5, 5, 10, 10}, all{0, 0, 20, 20};
-    SetColor(canvas.get(), red);
-    SetCanvasClipRect(canvas.get(), &clip);
-    EXPECT_EQ(DrawRectangle(canvas.get(), 12, 12, 4, 4), 1) << "outside the clip";
-    EXPECT_TRUE(Shows(canvas.get(), [](int, int) { return 0U; }));
-    EXPECT_EQ(DrawCircle(canvas.get(), 8, 8, 30), 1);
-    EXPECT_TRUE(Shows(canvas.get(), [&](int x, int y) { return Inside(clip, x, y) ? red : 0; }));
-    SetCanvasClipRect(canvas.get(), &all);
-    DrawRectangle(canvas.get(), 0, 0, 20, 20);
-    EXPECT_TRUE(Shows(canvas.get(), [](int, int) { return red; }));
-}
 
 TEST(Vector, StyleStaysUntilItIsRestored) {
     const OwnedCanvas canvas(CreateCanvas(4, 1, nullptr));
@@ -134,12 +108,12 @@ TEST(Vector, RoundedTexturesKeepTheirMiddleAndLoseTheirCorners) {
         }
     // Other depths are widened first.
     OwnedTexture rgb(CreateTextureEx(8, 8, 24, 0));
-    Fill(rgb.get(), [](int, int) { return 0x123456U; });
+    Fill(rgb.get(), Plain{0x123456});
     const OwnedCanvas canvas(CreateCanvas(8, 8, nullptr));
     TextureDrawParams params{};
     params.alpha = 255;
     params.rounded = 1;
     const RECT same{0, 0, 8, 8};
     EXPECT_EQ(DrawTextureEx3(canvas.get(), &same, rgb.get(), &params, nullptr), 1);
-    EXPECT_TRUE(Shows(canvas.get(), [](int, int) { return 0xFF123456U; }));
+    EXPECT_TRUE(Shows(canvas.get(), Plain{0xFF123456}));
 }

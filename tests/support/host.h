@@ -123,6 +123,20 @@ OwnedBitmap MakeBitmap(int width, int height, Picture picture) {
     return bitmap;
 }
 
+template <class Picture>
+OwnedCanvas MakeCanvas(int width, int height, Picture picture, DWORD filter = ZORVIC_OP_COPY) {
+    OwnedCanvas canvas(CreateCanvas(width, height, nullptr));
+    Fill(canvas.get(), picture);
+    SetCanvasFilter(canvas.get(), filter);
+    return canvas;
+}
+
+// One pixel's value everywhere.
+struct Plain {
+    DWORD pixel = 0;
+    DWORD operator()(int, int) const { return pixel; }
+};
+
 // What a surface shows now, as a picture for later comparisons.
 struct Snapshot {
     template <class Handle>

@@ -18,7 +18,7 @@ DWORD ColorOf(DWORD pixel) { return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, p
 
 TEST(BitmapHandle, SystemBitmapIsATopDownDibSectionOfZeros) {
     const OwnedBitmap bitmap(CreateSystemBitmap(7, 5));
-    EXPECT_TRUE(Shows(bitmap.get(), [](int, int) { return 0U; }));
+    EXPECT_TRUE(Shows(bitmap.get(), Plain{}));
 
     DIBSECTION section{};
     const HBITMAP handle = GetBitmapHandle(bitmap.get());
