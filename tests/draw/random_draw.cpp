@@ -44,25 +44,24 @@ DrawSources::DrawSources() : skin(CreateTexture(width, height)), canvas(CreateCa
     Fill(canvas.get(), PremultipliedPattern{7});
 }
 
-RandomDraw DrawSources::Next(zorvic::Random& random, RandomDraw::Needs canDo) const {
+RandomDraw DrawSources::Next(zorvic::Random& random, bool onSurface) const {
     constexpr DWORD operations[] = {ZORVIC_OP_COPY, ZORVIC_OP_SOURCE_OVER, ZORVIC_OP_COLOR_KEY, ZORVIC_OP_MULTIPLY,
                                     ZORVIC_OP_DESTINATION_OVER};
     constexpr DWORD filters[] = {ZORVIC_FILTER_NEAREST, ZORVIC_FILTER_BILINEAR, ZORVIC_FILTER_BICUBIC,
                                  ZORVIC_FILTER_AREA};
     constexpr BYTE alphas[] = {0, 1, 128, 254, 255, 255};
-    const bool surface = canDo == RandomDraw::Needs::surface;
     const HGBITMAP bitmap = bitmaps[static_cast<std::size_t>(random.Below(4))].get();
     const HGTEXTURE t = skin.get();
     const HGCANVAS o = canvas.get();
     const RECT dst = RectByChance(random), part = PartOf(random), margins = MarginsByChance(random);
     const DWORD color = random.Pixel(), filter = filters[random.Below(4)];
-    const DWORD operation = operations[random.Below(surface ? 5 : 4)];  // the last one asks the canvas for its alpha
+    const DWORD operation = operations[random.Below(onSurface ? 5 : 4)];  // the last one asks the canvas for its alpha
     const BYTE alpha = alphas[random.Below(6)];
     const float scale = static_cast<float>(random.Below(5)) * .5F;
     SetBitmapFilter(bitmap, operation);
     SetTextureFilter(t, operation);
     SetCanvasFilter(o, ZORVIC_OP_SOURCE_OVER);  // of others, stretches change when they are clipped
-    switch (random.Below(surface ? 16 : 10)) {
+    switch (random.Below(onSurface ? 16 : 10)) {
         case 0:
             return {"fill", [=](HGCANVAS c) { return FillSolidRectEx(c, color, &dst, operation); }};
         case 1:
@@ -90,11 +89,9 @@ RandomDraw DrawSources::Next(zorvic::Random& random, RandomDraw::Needs canDo) co
         case 14:
             return {"center", [=](HGCANVAS c) { return DrawTextureCenter(c, &dst, t, &part, filter, alpha); }};
         case 8:
-            return {"mix color", [=](HGCANVAS c) { return MixCanvasWithColor(c, &dst, color, alpha); },
-                    RandomDraw::Needs::anyCanvas, dst};
+            return {"mix color", [=](HGCANVAS c) { return MixCanvasWithColor(c, &dst, color, alpha); }, dst};
         case 9:
-            return {"mix", [=](HGCANVAS c) { return MixCanvas(c, &dst, o, &part, alpha); },
-                    RandomDraw::Needs::anyCanvas, dst};
+            return {"mix", [=](HGCANVAS c) { return MixCanvas(c, &dst, o, &part, alpha); }, dst};
         case 10:
             return {"blend", [=](HGCANVAS c) { return BlendCanvas(c, &dst, o, &part, 255); }};
         case 11:

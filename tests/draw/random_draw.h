@@ -9,13 +9,10 @@
 
 namespace host {
 
-// Draws land between -40 and 90 logical pixels, and show more where nothing clips them.
+// Most draws lie between -40 and 90 logical pixels.
 struct RandomDraw {
-    enum class Needs { anyCanvas, surface };
-
     std::string name;
     std::function<int(HGCANVAS)> call;
-    Needs needs = Needs::anyCanvas;
     // For draws that the clip does not hold and that are refused when they leave the surface.
     RECT unclipped{};
 };
@@ -24,8 +21,9 @@ struct RandomDraw {
 class DrawSources {
 public:
     DrawSources();
-    // needs: what the canvas can do. overAlpha: whether its alpha bytes may count.
-    RandomDraw Next(zorvic::Random& random, RandomDraw::Needs canDo) const;
+    // The operation words of the sources are the next draw's. onSurface: also what only canvases with a surface do, and
+    // what asks for their alpha.
+    RandomDraw Next(zorvic::Random& random, bool onSurface) const;
 
 private:
     std::vector<OwnedBitmap> bitmaps;  // of every depth

@@ -90,84 +90,50 @@ TEST(Bitmap, PaletteIsItsOwnOrTheGrayRamp) {
 }
 
 TEST(Bitmap, LocksAreasThatLieInside) {
-    constexpr int width = 10;
-    constexpr int height = 7;
-    const RECT inside[] = {{0, 0, width, height}, {2, 3, 7, 5}, {9, 6, 10, 7}, {0, 6, 10, 7}, {3, 0, 4, 7}};
-    const RECT refused[] = {{2, 3, 2, 9},
-                            {2, 3, 5, 3},
-                            {5, 1, 3, 4},
-                            {1, 5, 4, 3},
-                            {-1, 0, 4, 4},
-                            {0, -1, 4, 4},
-                            {0, 0, width + 1, height},
-                            {0, 0, width, height + 1},
-                            {10, 0, 11, 1},
-                            {INT_MIN, INT_MIN, INT_MAX, INT_MAX},
-                            {INT_MAX, 0, INT_MIN, 1},
-                            {0, 0, INT_MIN, INT_MIN}};
-
+    constexpr LONG width = 10, height = 7;
+    constexpr LONG edges[] = {LONG_MIN, -1, 0, 3, height, width, width + 1, LONG_MAX};
     std::vector<OwnedBitmap> bitmaps;
     for (const int bitsPixel : {8, 16, 24, 32}) bitmaps.push_back(MakeBitmap(width, height, bitsPixel, 5));
     bitmaps.emplace_back(CreateSystemBitmap(width, height));
     for (const OwnedBitmap& bitmap : bitmaps) {
         BITMAP whole{};
         ASSERT_EQ(LockBitmapBits(bitmap.get(), &whole, nullptr), 1);
-        SCOPED_TRACE(testing::Message() << whole.bmBitsPixel << " bits");
-        EXPECT_EQ(whole.bmType, 0);
-        EXPECT_EQ(whole.bmPlanes, 1);
-        for (const RECT& area : inside) {
+        for (int i = 0; i < 8 * 8 * 8 * 8; ++i) {
+            const RECT area{edges[i & 7], edges[i >> 3 & 7], edges[i >> 6 & 7], edges[i >> 9]};
+            SCOPED_TRACE(std::to_string(whole.bmBitsPixel) + " bits " + ToText(area));
+            const bool inside = area.left >= 0 && area.top >= 0 && area.left < area.right && area.top < area.bottom &&
+                                area.right <= width && area.bottom <= height;
             BITMAP part{};
             BitmapLockInfo partEx{};
-            ASSERT_EQ(LockBitmapBits(bitmap.get(), &part, &area), 1) << ToText(area);
-            EXPECT_EQ(part.bmWidth, area.right - area.left) << ToText(area);
-            EXPECT_EQ(part.bmHeight, area.bottom - area.top) << ToText(area);
-            EXPECT_EQ(part.bmWidthBytes, whole.bmWidthBytes) << ToText(area);
-            EXPECT_EQ(part.bmBitsPixel, whole.bmBitsPixel) << ToText(area);
-            EXPECT_EQ(static_cast<BYTE*>(part.bmBits) - static_cast<BYTE*>(whole.bmBits),
-                      area.top * whole.bmWidthBytes + area.left * (whole.bmBitsPixel / 8))
-                << ToText(area);
-            ASSERT_EQ(LockBitmapBitsEx(bitmap.get(), &partEx, &area), 1) << ToText(area);
-            EXPECT_EQ(memcmp(&partEx, &part, sizeof part), 0) << ToText(area);
+            ASSERT_EQ(LockBitmapBits(bitmap.get(), &part, &area), inside ? 1 : 0);
+            ASSERT_EQ(LockBitmapBitsEx(bitmap.get(), &partEx, &area), inside ? 1 : 0);
+            ASSERT_EQ(memcmp(&partEx, &part, sizeof part), 0);
+            if (!inside) continue;
+            auto* const first =
+                static_cast<BYTE*>(whole.bmBits) + area.top * whole.bmWidthBytes + area.left * (whole.bmBitsPixel / 8);
+            const BITMAP wanted{
+                0, area.right - area.left, area.bottom - area.top, whole.bmWidthBytes, 1, whole.bmBitsPixel, first};
+            ASSERT_EQ(memcmp(&part, &wanted, sizeof part), 0);
         }
-        for (const RECT& area : refused) {
-            BITMAP part{};
-            BitmapLockInfo partEx{};
-            EXPECT_EQ(LockBitmapBits(bitmap.get(), &part, &area), 0) << ToText(area);
-            EXPECT_EQ(LockBitmapBitsEx(bitmap.get(), &partEx, &area), 0) << ToText(area);
-        }
-    }
-}
-
-TEST(Bitmap, BelowEightBitsCannotBeLocked) {
-    for (const int bitsPixel : {1, 4, 7}) {
-        const OwnedBitmap bitmap = MakeBitmap(9, 3, bitsPixel, 300);
-        BITMAP out{};
-        BYTE depth = 0;
-        EXPECT_EQ(LockBitmapBits(bitmap.get(), &out, nullptr), 0) << bitsPixel;
-        EXPECT_EQ(GetBitmapBitsPixel(bitmap.get(), &depth), 1);
-        EXPECT_EQ(depth, bitsPixel);
     }
 }
 
 TEST(Bitmap, TellsItsProperties) {
-    const OwnedBitmap bitmap = MakeBitmap(300, 200, 24);
-    SIZE size{};
-    DWORD filter = 9;
-    BYTE depth = 0;
-    EXPECT_EQ(GetBitmapSize(bitmap.get(), &size), 1);
-    EXPECT_EQ(size.cx, 300);
-    EXPECT_EQ(size.cy, 200);
-    EXPECT_EQ(GetBitmapBitsPixel(bitmap.get(), &depth), 1);
-    EXPECT_EQ(depth, 24);
-    EXPECT_EQ(GetBitmapFilter(bitmap.get(), &filter), 1);
-    EXPECT_EQ(filter, 0U);
-    EXPECT_EQ(SetBitmapFilter(bitmap.get(), 0x02ABCDEF), 1);
-    GetBitmapFilter(bitmap.get(), &filter);
-    EXPECT_EQ(filter, 0x02ABCDEFU);
-
-    ReleaseBitmap(bitmap.get());  // leaves the bitmap alone
-    EXPECT_EQ(GetBitmapSize(bitmap.get(), &size), 1);
-    EXPECT_EQ(size.cy, 200);
+    for (const int bitsPixel : {1, 4, 7, 8, 24, 32}) {
+        const OwnedBitmap bitmap = MakeBitmap(300, 200, bitsPixel, 300);
+        ReleaseBitmap(bitmap.get());  // leaves the bitmap alone
+        BITMAP out{};
+        EXPECT_EQ(LockBitmapBits(bitmap.get(), &out, nullptr), bitsPixel < 8 ? 0 : 1);
+        SIZE size{};
+        DWORD before = 9, filter = 9;
+        BYTE depth = 0;
+        EXPECT_EQ(GetBitmapSize(bitmap.get(), &size) + GetBitmapBitsPixel(bitmap.get(), &depth), 2);
+        EXPECT_TRUE(size.cx == 300 && size.cy == 200 && depth == bitsPixel);
+        EXPECT_EQ(GetBitmapFilter(bitmap.get(), &before) + SetBitmapFilter(bitmap.get(), 0x02ABCDEF) +
+                      GetBitmapFilter(bitmap.get(), &filter),
+                  3);
+        EXPECT_TRUE(before == 0 && filter == 0x02ABCDEF);
+    }
 }
 
 }  // namespace
