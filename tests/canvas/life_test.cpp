@@ -7,8 +7,6 @@ using namespace host;
 
 namespace {
 
-constexpr auto nothing = Plain{};
-
 DWORD FilterOf(HGCANVAS canvas) {
     DWORD filter = 0;
     EXPECT_EQ(GetCanvasFilter(canvas, &filter), 1);
@@ -36,48 +34,36 @@ TEST(CanvasLife, StartsTransparentAndPlain) {
         MakeBitmap(37, 23, Pattern{});
         const OwnedCanvas canvas(create(37, 23, nullptr));
         ASSERT_TRUE(canvas);
-        EXPECT_TRUE(Shows(canvas.get(), nothing));
+        EXPECT_TRUE(Shows(canvas.get(), Plain{}));
         SIZE size{};
         EXPECT_EQ(GetCanvasSize(canvas.get(), &size), 1);
-        EXPECT_EQ(size.cx, 37);
-        EXPECT_EQ(size.cy, 23);
-        EXPECT_EQ(FilterOf(canvas.get()), 0U);
-        EXPECT_EQ(FilterOf(GetBitmap(canvas.get())), 0U);
-        EXPECT_EQ(GetCanvasWindow(canvas.get()), nullptr);
-        DWORD color = 1;
-        EXPECT_EQ(GetCanvasBkColor(canvas.get(), &color), 1);
-        EXPECT_EQ(color, 0U);
-
+        EXPECT_TRUE(size.cx == 37 && size.cy == 23);
+        EXPECT_EQ(FilterOf(canvas.get()) | FilterOf(GetBitmap(canvas.get())), 0U);
         for (const auto& [width, height] : {std::pair{0, 5}, {5, -1}, {32768, 1}, {1, 32768}, {INT_MIN, INT_MAX}})
             EXPECT_EQ(create(width, height, nullptr), nullptr) << width << " x " << height;
-    }
-}
 
-TEST(CanvasLife, InheritsTheOperationWord) {
-    for (const auto& [name, create] : makers) {
-        SCOPED_TRACE(name);
-        const OwnedCanvas reference(CreateCanvas(4, 4, nullptr));
-        EXPECT_EQ(SetCanvasFilter(reference.get(), 0x02112233), 1);
-        EXPECT_EQ(FilterOf(GetBitmap(reference.get())), 0x02112233U) << "the surface's word mirrors the canvas's";
-        const OwnedCanvas canvas(create(8, 8, reference.get()));
-        EXPECT_EQ(FilterOf(canvas.get()), 0x02112233U);
-        EXPECT_EQ(FilterOf(GetBitmap(canvas.get())), 0x02112233U);
+        EXPECT_EQ(SetCanvasFilter(canvas.get(), 0x02112233), 1);
+        const OwnedCanvas next(create(8, 8, canvas.get()));
+        for (const HGCANVAS inherited : {canvas.get(), next.get()}) {
+            EXPECT_EQ(FilterOf(inherited), 0x02112233U);
+            EXPECT_EQ(FilterOf(GetBitmap(inherited)), 0x02112233U) << "the surface's word mirrors the canvas's";
+        }
     }
 }
 
 TEST(CanvasLife, KeepsWhatTheHostStores) {
     const OwnedCanvas canvas(CreateCanvas(4, 4, nullptr));
-    const auto window = reinterpret_cast<HWND>(canvas.get());
-    EXPECT_EQ(SetCanvasWindow(canvas.get(), window), nullptr);
-    EXPECT_EQ(GetCanvasWindow(canvas.get()), window);
-    EXPECT_EQ(SetCanvasWindow(canvas.get(), nullptr), window);
-
-    DWORD color = 1;
-    EXPECT_EQ(SetCanvasBkColor(canvas.get(), 0x80FFFFFF, &color), 1);
-    EXPECT_EQ(color, 0U);
-    EXPECT_EQ(SetCanvasBkColor(canvas.get(), 2, nullptr), 1);
-    EXPECT_EQ(SetCanvasBkColor(canvas.get(), 3, &color), 1);
-    EXPECT_EQ(color, 2U);
+    HWND previousWindow = nullptr;
+    DWORD previousColor = 0, color = 9;
+    for (const auto& [newWindow, newColor] :
+         {std::pair(reinterpret_cast<HWND>(canvas.get()), 0x80FFFFFFUL), {nullptr, 2}}) {
+        EXPECT_EQ(GetCanvasWindow(canvas.get()), previousWindow);
+        EXPECT_EQ(SetCanvasWindow(canvas.get(), newWindow), std::exchange(previousWindow, newWindow));
+        EXPECT_EQ(GetCanvasBkColor(canvas.get(), &color), 1);
+        EXPECT_EQ(color, previousColor);
+        EXPECT_EQ(SetCanvasBkColor(canvas.get(), newColor, &color), 1);
+        EXPECT_EQ(color, std::exchange(previousColor, newColor));
+    }
 }
 
 // The first request for the device context turns a memory surface into a DIB section: same bitmap, moved pixels.
@@ -104,12 +90,10 @@ TEST(CanvasLife, ACanvasOnADeviceContextOnlyBorrowsIt) {
     SetWindowOrgEx(dib.Dc(), 1, -1, nullptr);
     OwnedCanvas canvas(CreateCanvasFromDC(dib.Dc()));
     ASSERT_TRUE(canvas);
-    POINT origin{};
-    EXPECT_EQ(GetViewportOrg(canvas.get(), &origin), 1);
-    EXPECT_TRUE(origin.x == 3 && origin.y == 2);
-    EXPECT_EQ(GetWindowOrg(canvas.get(), &origin), 1);
-    EXPECT_TRUE(origin.x == 1 && origin.y == -1);
-
+    POINT viewport{}, window{};
+    EXPECT_EQ(GetViewportOrg(canvas.get(), &viewport) + GetWindowOrg(canvas.get(), &window), 2);
+    EXPECT_EQ(viewport, (POINT{3, 2}));
+    EXPECT_EQ(window, (POINT{1, -1}));
     EXPECT_EQ(GetCanvasHandle(canvas.get()), dib.Dc());
     EXPECT_EQ(GetBitmap(canvas.get()), nullptr);
     EXPECT_EQ(GetTexture(canvas.get()), nullptr);

@@ -1,7 +1,7 @@
 // Drawing bitmaps and textures on canvases: operations, opacity, sampling positions, parts and slices.
 #include <functional>
 
-#include "support/host.h"
+#include "support/slow_pixels.h"
 
 using namespace host;
 
@@ -51,42 +51,27 @@ TEST(Bitmaps, EveryOperationDoesToAPixelWhatItsFormulaSays) {
 }
 
 TEST(Bitmaps, NearestSamplingIsAnchoredAtTheTopLeft) {
-    const struct {
-        int source, drawn;
-        std::vector<int> columns;
-    } cases[] = {{2, 4, {0, 0, 1, 1}}, {3, 2, {0, 1}}, {4, 3, {0, 1, 2}}, {5, 1, {0}}, {3, 7, {0, 0, 0, 1, 1, 2, 2}}};
-    for (const auto& c : cases) {
-        const OwnedBitmap source = MakeBitmap(c.source, c.source, Pattern{});
-        const OwnedCanvas canvas(CreateCanvas(c.drawn, c.drawn, nullptr));
-        const RECT dst{0, 0, c.drawn, c.drawn};
-        DrawBitmap(canvas.get(), &dst, source.get(), ZORVIC_FILTER_NEAREST);
-        const auto at = [&](int i) { return c.columns[static_cast<std::size_t>(i)]; };
-        EXPECT_TRUE(Shows(canvas.get(), [&](int x, int y) { return Pattern{}(at(x), at(y)); }))
-            << c.source << " to " << c.drawn;
-    }
+    for (int size = 1; size < 8; ++size)
+        for (int drawn = 1; drawn < 16; ++drawn) {
+            const OwnedBitmap source = MakeBitmap(size, size, Pattern{});
+            const OwnedCanvas canvas(CreateCanvas(drawn, drawn, nullptr));
+            const RECT dst{0, 0, drawn, drawn};
+            DrawBitmap(canvas.get(), &dst, source.get(), ZORVIC_FILTER_NEAREST);
+            const auto at = [&](int i) { return SlowNearest(i, size, drawn); };
+            EXPECT_TRUE(Shows(canvas.get(), [&](int x, int y) { return Pattern{}(at(x), at(y)); }))
+                << size << " to " << drawn;
+        }
 }
 
 TEST(Bitmaps, PartsOfTheSourceMustLieInsideIt) {
     const OwnedBitmap source = MakeBitmap(12, 9, Pattern{});
     const OwnedCanvas canvas(CreateCanvas(12, 9, nullptr));
-    const RECT dst{1, 1, 6, 5};
-    const struct {
-        RECT src;
-        bool drawn;
-    } cases[] = {{{3, 2, 8, 6}, true},
-                 {{7, 5, 12, 9}, true},
-                 {{8, 5, 13, 9}, false},
-                 {{-1, 0, 4, 4}, false},
-                 {{8, 6, 3, 2}, false},
-                 {{3, 2, 3, 6}, false},
-                 {{LONG_MIN, 0, LONG_MAX, 4}, false}};
-    for (const auto& c : cases) {
-        Fill(canvas.get(), Plain{});
-        EXPECT_EQ(DrawBitmapEx2(canvas.get(), &dst, source.get(), &c.src, 0, 255), 1) << ToText(c.src);
-        EXPECT_TRUE(Shows(canvas.get(), [&](int x, int y) {
-            return c.drawn && Inside(dst, x, y) ? Pattern{}(x - 1 + c.src.left, y - 1 + c.src.top) : 0;
-        })) << ToText(c.src);
-    }
+    const RECT dst{1, 1, 6, 5}, inside{7, 5, 12, 9};
+    for (const RECT& src : {RECT{8, 5, 13, 9}, {-1, 0, 4, 4}, {8, 6, 3, 2}, {3, 2, 3, 6}, {LONG_MIN, 0, LONG_MAX, 4}})
+        EXPECT_EQ(DrawBitmapEx2(canvas.get(), &dst, source.get(), &src, 0, 255), 1) << ToText(src);
+    EXPECT_TRUE(Shows(canvas.get(), Plain{}));
+    EXPECT_EQ(DrawBitmapEx2(canvas.get(), &dst, source.get(), &inside, 0, 255), 1);
+    EXPECT_TRUE(Shows(canvas.get(), [&](int x, int y) { return Inside(dst, x, y) ? Pattern{}(x + 6, y + 4) : 0; }));
 }
 
 TEST(Textures, DrawTheCurrentSlice) {

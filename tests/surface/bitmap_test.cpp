@@ -9,39 +9,22 @@ namespace {
 using namespace host;
 
 TEST(Bitmap, SizesAndDepthsThatCanBeMade) {
-    struct Case {
-        int width, height, bitsPixel;
-        bool possible;
+    const auto expect = [](int width, int height, int bitsPixel, bool possible) {
+        SCOPED_TRACE(testing::Message() << width << " x " << height << " x " << bitsPixel);
+        EXPECT_EQ(OwnedBitmap(CreateMemBitmapEx(width, height, bitsPixel, 0)) != nullptr, possible);
+        EXPECT_EQ(OwnedTexture(CreateTextureEx(width, height, bitsPixel, 0)) != nullptr, possible);
+        if (bitsPixel != 32) return;
+        EXPECT_EQ(OwnedBitmap(CreateMemBitmap(width, height)) != nullptr, possible);
+        EXPECT_EQ(OwnedBitmap(CreateSystemBitmap(width, height)) != nullptr, possible);
+        EXPECT_EQ(OwnedTexture(CreateTexture(width, height)) != nullptr, possible);
     };
-    const Case cases[] = {
-        {1, 1, 32, true},
-        {32767, 1, 32, true},
-        {1, 32767, 32, true},
-        {32768, 1, 32, false},
-        {1, 32768, 32, false},
-        {0, 5, 32, false},
-        {5, 0, 32, false},
-        {5, -1, 32, false},
-        {INT_MIN, 4, 32, false},
-        {4, INT_MAX, 32, false},
-        {3, 3, 1, true},
-        {3, 3, 24, true},
-        {3, 3, 31, true},
-        {3, 3, 0, false},
-        {3, 3, 33, false},
-        {3, 3, -8, false},
-        {3, 3, 0x10000 + 8, false},
-        {32767, 32767, 32, sizeof(void*) > 4},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.width << " x " << c.height << " x " << c.bitsPixel);
-        EXPECT_EQ(OwnedBitmap(CreateMemBitmapEx(c.width, c.height, c.bitsPixel, 0)) != nullptr, c.possible);
-        EXPECT_EQ(OwnedTexture(CreateTextureEx(c.width, c.height, c.bitsPixel, 0)) != nullptr, c.possible);
-        if (c.bitsPixel != 32) continue;
-        EXPECT_EQ(OwnedBitmap(CreateMemBitmap(c.width, c.height)) != nullptr, c.possible);
-        EXPECT_EQ(OwnedBitmap(CreateSystemBitmap(c.width, c.height)) != nullptr, c.possible);
-        EXPECT_EQ(OwnedTexture(CreateTexture(c.width, c.height)) != nullptr, c.possible);
-    }
+    for (const int extent : {INT_MIN, -1, 0, 1, 32767, 32768, INT_MAX})
+        for (const int bitsPixel : {-8, 0, 1, 24, 31, 32, 33, 0x10000 + 8}) {
+            const bool possible = extent >= 1 && extent <= 32767 && bitsPixel >= 1 && bitsPixel <= 32;
+            expect(extent, 3, bitsPixel, possible);
+            expect(3, extent, bitsPixel, possible);
+        }
+    expect(32767, 32767, 32, sizeof(void*) > 4);
 }
 
 TEST(Bitmap, RowsArePaddedTo32Bits) {

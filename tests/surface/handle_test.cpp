@@ -36,43 +36,36 @@ TEST(BitmapHandle, SystemBitmapIsATopDownDibSectionOfZeros) {
 }
 
 TEST(BitmapHandle, ConversionKeepsThePictureAndIsDoneOnce) {
-    struct Case {
-        const char* name;
-        int bitsPixel, colorCount;
-        DWORD (*shown)(DWORD pixel);  // a pixel's colour; palettes hold the pattern with row -1
-    };
-    const Case cases[] = {
-        {"8 bits, own palette", 8, 256, [](DWORD pixel) { return Pattern{}(static_cast<int>(pixel & 0xFF), -1); }},
-        {"8 bits, grey ramp", 8, 0, [](DWORD pixel) { return 0xFF000000 | (pixel & 0xFF) * 0x010101; }},
-        {"24 bits", 24, 0, [](DWORD pixel) { return 0xFF000000 | (pixel & 0xFFFFFF); }},
-        {"32 bits", 32, 0, [](DWORD pixel) { return pixel; }},
-    };
-    for (const Case& c : cases)
-        for (const int width : {1, 5, 33}) {
-            SCOPED_TRACE(testing::Message() << c.name << ", " << width << " pixels wide");
-            const OwnedBitmap bitmap = MakeBitmap(width, 9, c.bitsPixel, c.colorCount);
-            SetBitmapFilter(bitmap.get(), 0x01000000);
-            Fill(bitmap.get(), Pattern{});
-            for (int i = 0; i < c.colorCount; ++i) Pixels(bitmap.get())->palette[i] = Pattern{}(i, -1);
+    for (const int bitsPixel : {8, 24, 32})
+        for (const int colorCount : {0, 256})
+            for (const int width : {1, 5, 33}) {
+                SCOPED_TRACE(testing::Message() << bitsPixel << " bits, " << colorCount << " colours, width " << width);
+                const OwnedBitmap bitmap = MakeBitmap(width, 9, bitsPixel, colorCount);
+                SetBitmapFilter(bitmap.get(), 0x01000000);
+                Fill(bitmap.get(), Pattern{});
+                const bool hasPalette = bitsPixel == 8 && colorCount != 0;
+                for (int i = 0; hasPalette && i < 256; ++i) Pixels(bitmap.get())->palette[i] = Pattern{}(i, -1);
+                const auto picture = [=](int x, int y) {
+                    const DWORD word = Pattern{}(x, y), index = word & 0xFF;
+                    if (bitsPixel == 8)
+                        return hasPalette ? Pattern{}(static_cast<int>(index), -1) : 0xFF000000 | index * 0x010101;
+                    return bitsPixel == 24 ? 0xFF000000 | word : word;
+                };
 
-            const HBITMAP handle = GetBitmapHandle(bitmap.get());
-            ASSERT_NE(handle, nullptr);
-            EXPECT_EQ(GetBitmapHandle(bitmap.get()), handle);
-            EXPECT_TRUE(Shows(bitmap.get(), [&](int x, int y) { return c.shown(Pattern{}(x, y)); }));
-            EXPECT_EQ(GdiPixel(handle, width - 1, 8), ColorOf(c.shown(Pattern{}(width - 1, 8))));
-
-            const Pixels pixels(bitmap.get());
-            BYTE depth = 0;
-            DWORD filter = 0;
-            GetBitmapBitsPixel(bitmap.get(), &depth);
-            GetBitmapFilter(bitmap.get(), &filter);
-            EXPECT_EQ(depth, 32);
-            EXPECT_EQ(pixels->colorCount, 0);
-            EXPECT_EQ(filter, 0x01000000U);
-            Fill(bitmap.get(), Pattern{2});
-            EXPECT_EQ(GetBitmapHandle(bitmap.get()), handle);
-            EXPECT_TRUE(Shows(bitmap.get(), Pattern{2})) << "converted twice";
-        }
+                const HBITMAP handle = GetBitmapHandle(bitmap.get());
+                ASSERT_NE(handle, nullptr);
+                EXPECT_TRUE(Shows(bitmap.get(), picture));
+                EXPECT_EQ(GdiPixel(handle, width - 1, 8), ColorOf(picture(width - 1, 8)));
+                const Pixels pixels(bitmap.get());
+                BYTE depth = 0;
+                DWORD filter = 0;
+                GetBitmapBitsPixel(bitmap.get(), &depth);
+                GetBitmapFilter(bitmap.get(), &filter);
+                EXPECT_TRUE(depth == 32 && pixels->colorCount == 0 && filter == 0x01000000);
+                Fill(bitmap.get(), Pattern{2});
+                EXPECT_EQ(GetBitmapHandle(bitmap.get()), handle);
+                EXPECT_TRUE(Shows(bitmap.get(), Pattern{2})) << "converted twice";
+            }
 }
 
 // Depths without a kernel of their own are read as 32-bit words, so that words of the last row lie behind its pixels.

@@ -2,12 +2,11 @@
 #include <climits>
 
 #include "support/host.h"
+#include "support/random.h"
 
 namespace {
 
 using namespace host;
-
-constexpr RECT slices[3] = {{0, 0, 4, 6}, {4, 0, 9, 6}, {9, 1, 20, 5}};
 
 RECT CurrentSlice(HGTEXTURE texture) {
     RECT slice{-1, -1, -1, -1};
@@ -15,51 +14,41 @@ RECT CurrentSlice(HGTEXTURE texture) {
     return slice;
 }
 
-testing::AssertionResult HasSize(HGTEXTURE texture, LONG width, LONG height) {
+SIZE ImageSize(HGTEXTURE texture) {
     SIZE size{-1, -1};
-    if (GetTextureSize(texture, &size) == 1 && size.cx == width && size.cy == height)
-        return testing::AssertionSuccess();
-    return testing::AssertionFailure() << "got " << size.cx << " x " << size.cy << ", wanted " << width << " x "
-                                       << height;
+    EXPECT_EQ(GetTextureSize(texture, &size), 1);
+    return size;
 }
 
-TEST(Texture, WithoutSlicesIsTheWholeSurface) {
-    const OwnedTexture texture(CreateTexture(20, 6));
-    EXPECT_EQ(GetTextureSliceCount(texture.get()), 0);
-    EXPECT_EQ(SetTextureCurSlice(texture.get(), 0), -1);
-    EXPECT_EQ(CurrentSlice(texture.get()), (RECT{0, 0, 20, 6}));
-    EXPECT_TRUE(HasSize(texture.get(), 20, 6));
-    EXPECT_EQ(SetTextureSlice(texture.get(), 3, nullptr), 0);
-    EXPECT_EQ(GetTextureSliceCount(texture.get()), 0);
-}
-
+// Calls by chance against a model; slices are not checked.
 TEST(Texture, SelectsSlices) {
-    const OwnedTexture texture(CreateTexture(20, 6));
-    EXPECT_EQ(SetTextureSlice(texture.get(), 3, slices), 3);
-    EXPECT_EQ(GetTextureSliceCount(texture.get()), 3);
-    EXPECT_EQ(CurrentSlice(texture.get()), slices[2]) << "the last one is current";
-    EXPECT_TRUE(HasSize(texture.get(), 11, 4));
-
-    for (const int index : {3, -1, INT_MIN, INT_MAX}) EXPECT_EQ(SetTextureCurSlice(texture.get(), index), -1) << index;
-    EXPECT_EQ(CurrentSlice(texture.get()), slices[2]);
-    EXPECT_EQ(SetTextureCurSlice(texture.get(), 0), 2);
-    EXPECT_EQ(SetTextureCurSlice(texture.get(), 1), 0);
-    EXPECT_EQ(CurrentSlice(texture.get()), slices[1]);
-    EXPECT_TRUE(HasSize(texture.get(), 5, 6));
-
-    EXPECT_EQ(SetTextureSlice(texture.get(), 3, nullptr), 0);
-    EXPECT_EQ(SetTextureSlice(texture.get(), 0xFFFFFFFF, slices), 0) << "more than can be stored";
-    EXPECT_EQ(CurrentSlice(texture.get()), slices[1]) << "refused calls change nothing";
-
-    EXPECT_EQ(SetTextureSlice(texture.get(), 0, slices), 0);
-    EXPECT_EQ(GetTextureSliceCount(texture.get()), 0);
-    EXPECT_EQ(CurrentSlice(texture.get()), (RECT{0, 0, 20, 6})) << "the former index does not count";
-    EXPECT_TRUE(HasSize(texture.get(), 20, 6));
-    EXPECT_EQ(SetTextureCurSlice(texture.get(), 0), -1);
-
-    const RECT outside{-5, INT_MIN, 100, INT_MAX};
-    EXPECT_EQ(SetTextureSlice(texture.get(), 1, &outside), 1);
-    EXPECT_EQ(CurrentSlice(texture.get()), outside) << "slices are not checked";
+    const RECT all{0, 0, 20, 6}, rects[3] = {{0, 0, 4, 6}, {9, 1, 20, 5}, {-5, INT_MIN, 100, 7}};
+    const OwnedTexture texture(CreateTexture(all.right, all.bottom));
+    zorvic::Random random(1);
+    int count = 0, current = -1;
+    for (int i = 0; i < 500; ++i) {
+        const unsigned wanted = static_cast<unsigned>(random.Below(4));
+        switch (random.Below(4)) {
+            case 0:
+                EXPECT_EQ(SetTextureSlice(texture.get(), wanted, rects), wanted);
+                count = static_cast<int>(wanted);
+                current = count - 1;  // the last one
+                break;
+            case 1:  // more than can be stored
+                EXPECT_EQ(SetTextureSlice(texture.get(), 0xFFFFFFFF, rects), 0);
+                break;
+            default:
+                const int indices[] = {0, 1, 2, 3, -1, INT_MIN, INT_MAX}, index = indices[random.Below(7)];
+                const bool exists = index >= 0 && index < count;
+                EXPECT_EQ(SetTextureCurSlice(texture.get(), index), exists ? std::exchange(current, index) : -1);
+        }
+        const RECT slice = count > 0 ? rects[current] : all;
+        EXPECT_EQ(GetTextureSliceCount(texture.get()), count);
+        EXPECT_EQ(CurrentSlice(texture.get()), slice);
+        const SIZE size = ImageSize(texture.get());
+        EXPECT_EQ(size.cx, slice.right - slice.left);
+        EXPECT_EQ(size.cy, static_cast<LONG>(static_cast<DWORD>(slice.bottom) - static_cast<DWORD>(slice.top)));
+    }
 }
 
 TEST(Texture, KeepsItsLayoutRecord) {
@@ -77,16 +66,10 @@ TEST(Texture, KeepsItsLayoutRecord) {
 
 TEST(Texture, IsABitmap) {
     const OwnedTexture texture(CreateTextureEx(5, 4, 8, 16));
-    const HGBITMAP bitmap = AsBitmap(texture.get());
-    Fill(texture.get(), [](int x, int y) { return static_cast<DWORD>(x + y); });
     EXPECT_EQ(Pixels(texture.get())->colorCount, 16);
     SIZE size{};
-    DWORD filter = 0;
-    EXPECT_EQ(GetBitmapSize(bitmap, &size), 1);
+    EXPECT_EQ(GetBitmapSize(AsBitmap(texture.get()), &size), 1);
     EXPECT_EQ(size.cx, 5);
-    SetTextureFilter(texture.get(), 0x03000000);
-    GetBitmapFilter(bitmap, &filter);
-    EXPECT_EQ(filter, 0x03000000U);
 }
 
 TEST(Texture, TakesOverABitmapsPixels) {
@@ -119,7 +102,7 @@ TEST(Texture, OfABitmapWithoutPixelsHasNone) {
     const OwnedTexture texture(BitmapToTexture(bitmap.release()));
     ASSERT_TRUE(texture);
     BITMAP out{};
-    EXPECT_TRUE(HasSize(texture.get(), 0, 0));
+    EXPECT_EQ(ImageSize(texture.get()).cx, 0);
     EXPECT_EQ(CurrentSlice(texture.get()), RECT{});
     EXPECT_EQ(LockTextureBits(texture.get(), &out, nullptr), 0);
     EXPECT_EQ(GetTextureHandle(texture.get()), nullptr);
