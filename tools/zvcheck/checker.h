@@ -53,7 +53,7 @@ private:
 
     void Run(Form& form);
     // What is wrong with the destination, or nothing.
-    std::string ChangeOutside() const;
+    std::string ChangeOutside();
     std::string DifferenceFromFirst() const;
     void AddToChecksum();
 
@@ -61,7 +61,7 @@ private:
     std::vector<Form> forms;
     CaseImages images;
     Job job{};
-    ImageBytes wanted;
+    ImageBytes wanted, expected;
     std::uint32_t sums[2] = {};
     std::vector<Failure> failures;
     int caseNumber = 0;
