@@ -3,6 +3,7 @@ option(ZORVIC_WERROR "Treat warnings as errors" OFF)
 option(ZORVIC_BUILD_TESTS "Build the tests" ON)
 option(ZORVIC_BUILD_BENCH "Build zvbench, which measures the library" ON)
 set(ZORVIC_SANITIZE "" CACHE STRING "Sanitizers for every target, as in -fsanitize=")
+option(ZORVIC_COVERAGE "Have the libraries count which of their lines run" OFF)
 set(ZORVIC_GOOGLETEST_DIR "/usr/src/googletest" CACHE PATH "GoogleTest's sources, built together with the tests")
 
 math(EXPR ZORVIC_BITS "8 * ${CMAKE_SIZEOF_VOID_P}") # in the name of the DLL

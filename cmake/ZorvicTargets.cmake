@@ -36,6 +36,14 @@ function(zorvic_vector_flags)
     endforeach()
 endfunction()
 
+# zorvic_count_lines(TARGET): with ZORVIC_COVERAGE the target's code counts its lines, for gcov. Lines stay apart with -Og.
+function(zorvic_count_lines target)
+    if(ZORVIC_COVERAGE)
+        target_compile_options(${target} PRIVATE --coverage -fprofile-update=atomic -Og)
+        target_link_options(${target} PUBLIC --coverage)
+    endif()
+endfunction()
+
 # zorvic_keep_debug_apart(TARGET): function names and line numbers of a DLL go into a file beside it that debuggers find.
 # For the objects that are linked into a DLL it has them made.
 function(zorvic_keep_debug_apart target)
