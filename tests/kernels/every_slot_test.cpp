@@ -75,6 +75,17 @@ std::string NameOf(const testing::TestParamInfo<Subject>& info) {
 }
 INSTANTIATE_TEST_SUITE_P(, EverySlot, testing::ValuesIn(AllSubjects()), NameOf);
 
+// Of the length at which the processor's own loop takes over.
+TEST(Kernels, FillLongRows) {
+    for (const auto& [set, slot] : AllKernelCalls()) {
+        if (slot.rows != Rows::solid || slot.op != Op::copy) continue;
+        Image dst(9000, 1), wanted(9000, 1);
+        wanted.Fill([](int, int) { return 0x12345678; });
+        EXPECT_EQ(slot.run(*set.kernels, {dst.Info(), {}, {}, 0x12345678, 0}), 1);
+        EXPECT_TRUE(SameBytes(dst, wanted)) << set.name;
+    }
+}
+
 TEST(Kernels, LeaveEmptyDestinationsAlone) {
     Random random(1);
     for (const auto& [set, slot] : AllKernelCalls()) {
