@@ -11,11 +11,15 @@ void Path::Clear() {
 }
 
 void Path::Add(Verb verb, std::initializer_list<Point> added) {
-    verbs.push_back(verb);
-    for (const Point p : added) {
-        points.push_back(p);
-        controlBox.Add(p);
+    // All of the points or none: without memory for the verb they must not stay behind.
+    points.insert(points.end(), added);
+    try {
+        verbs.push_back(verb);
+    } catch (...) {
+        points.resize(points.size() - added.size());
+        throw;
     }
+    for (const Point p : added) controlBox.Add(p);
 }
 
 void Path::MoveTo(Point p) {
