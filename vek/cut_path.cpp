@@ -74,7 +74,7 @@ void ForEachEdge(std::vector<Point>& points, bool closed, const Box& box, Edge e
 class Dasher {
 public:
     Dasher(Path& path, const Dashes& lengths) : out(path), dashes(lengths) {
-        for (const double length : dashes) period += length;
+        for (const double length : dashes) ends.push_back(period += length);
     }
 
     void StartFigure() { penDown = false; }
@@ -84,14 +84,14 @@ public:
         const double length = Distance(a, b);
         const double end = span.last * length;
         double at = span.first * length;
-        double phase = std::fmod(before + at, period);
-        std::size_t dash = 0;
-        while (phase >= dashes[dash] && dash + 1 < dashes.size()) phase -= dashes[dash++];
+        const double phase = std::fmod(before + at, period);
+        const auto current = std::upper_bound(ends.begin(), ends.end() - 1, phase);
+        auto dash = static_cast<std::size_t>(current - ends.begin());
 
         bool down = penDown && span.first == 0;
         penDown = false;
         const auto place = [&](double distance) { return length > 0 ? Mix(a, b, distance / length) : a; };
-        for (double left = dashes[dash] - phase;; left = dashes[dash]) {
+        for (double left = *current - phase;; left = dashes[dash]) {
             if (++drawn > mostDashes) return false;
             const bool on = dash % 2 == 0;
             const double stop = std::min(at + left, end);
@@ -112,6 +112,7 @@ public:
 private:
     Path& out;
     const Dashes& dashes;
+    std::vector<double> ends;  // of the dashes in the period
     double period = 0;
     int drawn = 0;
     bool penDown = false;
