@@ -47,11 +47,6 @@ struct Pixels {
         for (const Pixel pixel : words) sum += Channel(pixel, 24);
         return sum / 255;
     }
-    bool IsEmpty() const {
-        for (const Pixel pixel : words)
-            if (pixel != 0) return false;
-        return true;
-    }
 };
 
 // Pixels with a canvas on them; converts to the canvas handle.
