@@ -39,6 +39,11 @@ const struct {
     {"set colors", [](BITMAP*, BITMAP* d) { return SetColor_IPP(d, 0x80FF0000, 1); }, 1, Words(6, 0xFFFF0000)},
     {"or", [](BITMAP* s, BITMAP* d) { return ARGBOrBitmap_IPP(s, d, 0x0F000001); }, 1,
      {0x8F402011, 0x0F000001, 0x0F000003, 0x0F000005, 0x0F000005, 0x0F000007}},
+    {"and of three bytes per pixel", [](BITMAP* s, BITMAP* d) {
+         s->bmBitsPixel = d->bmBitsPixel = 24;
+         s->bmWidthBytes = d->bmWidthBytes = 9;
+         return ARGBAndBitmap_IPP(s, d, 0);
+     }, 1, Words(6, ~0UL)},
     {"and in place", [](BITMAP*, BITMAP* d) { return ARGBAndBitmap_IPP(d, d, 0xFF0000FF); }, 1, Words(6, 0xFF0000FF)},
     {"and of two sizes", [](BITMAP* s, BITMAP* d) { return --s->bmWidth, ARGBAndBitmap_IPP(s, d, 0); }, 0, Words(6, ~0UL)},
 };

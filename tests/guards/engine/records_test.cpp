@@ -36,6 +36,8 @@ public:
     // Makes one member wrong in a way that shows, if steps tell how long rows can be.
     void Spoil(Random& random, bool usesSteps) {
         const int none[] = {0, -3, INT32_MIN}, tooWide[] = {INT32_MAX, step / bytesPerPixel + 1};
+        // More than 32-bit programs have room for.
+        constexpr int noHeight[] = {0, -3, INT32_MIN, sizeof(void*) == 4 ? INT32_MAX : 0};
         const int rowBytes = record.bmWidth * bytesPerPixel, narrow[] = {1, rowBytes - 1};
         switch (random.Below(5)) {
             case 0:
@@ -45,7 +47,7 @@ public:
                 record.bmWidth = none[random.Below(3)];
                 break;
             case 2:
-                record.bmHeight = none[random.Below(3)];
+                record.bmHeight = noHeight[random.Below(4)];
                 break;
             case 3:
                 if (usesSteps) record.bmWidth = tooWide[random.Below(2)];
