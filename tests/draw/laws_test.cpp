@@ -25,11 +25,14 @@ RECT WithExtremes(zorvic::Random& random, RECT rect) {
     return rect;
 }
 
-RECT RectByChance(zorvic::Random& random) {
+// One in three is as large as the part, one in three as the whole source.
+RECT RectByChance(zorvic::Random& random, const RECT& part) {
     const int left = random.Below(80) - 40, top = random.Below(80) - 40;
-    const bool sameSize = random.Below(4) == 0;
-    return WithExtremes(random, {left, top, left + (sameSize ? sourceWidth : 1 + random.Below(50)),
-                                 top + (sameSize ? sourceHeight : 1 + random.Below(50))});
+    const SIZE sizes[] = {{part.right - part.left, part.bottom - part.top},
+                          {sourceWidth, sourceHeight},
+                          {1 + random.Below(50), 1 + random.Below(50)}};
+    const SIZE size = sizes[random.Below(3)];
+    return WithExtremes(random, {left, top, left + size.cx, top + size.cy});
 }
 
 RECT MarginsByChance(zorvic::Random& random) {
@@ -79,7 +82,7 @@ RandomDraw DrawSources::Next(zorvic::Random& random, bool onSurface) const {
     const HGBITMAP bitmap = bitmaps[static_cast<std::size_t>(random.Below(4))].get();
     const HGTEXTURE t = skin.get();
     const HGCANVAS o = canvas.get();
-    const RECT dst = RectByChance(random), part = PartOf(random), margins = MarginsByChance(random);
+    const RECT part = PartOf(random), dst = RectByChance(random, part), margins = MarginsByChance(random);
     const DWORD color = random.Pixel(), filter = filters[random.Below(4)];
     const DWORD operation = operations[random.Below(onSurface ? 5 : 4)];  // the last one asks the canvas for its alpha
     const BYTE alpha = alphas[random.Below(6)];

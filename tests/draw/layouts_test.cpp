@@ -31,11 +31,10 @@ TEST(Layouts, CenterFitsTheSliceIntoTheMiddle) {
     };
     const OwnedTexture skin = MakeSkin();
     for (const auto& c : cases)
-        ExpectPieces("slice " + ToText(c.slice) + " dst " + ToText(c.dst), skin.get(),
+        ExpectPieces("slice " + ToText(c.slice) + " dst " + ToText(c.dst), skin.get(), 1, {{c.fitted, c.src}},
                      [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
                          return DrawTextureCenter(canvas, &c.dst, skin.get(), &c.slice, filter, alpha);
-                     },
-                     1, {{c.fitted, c.src}});
+                     });
 }
 
 TEST(Layouts, UniformCropsToTheShapeOfTheDestination) {
@@ -59,11 +58,10 @@ TEST(Layouts, UniformCropsToTheShapeOfTheDestination) {
     const OwnedTexture skin = MakeSkin();
     SetTextureSlice(skin.get(), 1, &cell);  // has no effect
     for (const auto& c : cases)
-        ExpectPieces("margins " + ToText(c.margins) + " dst " + ToText(c.dst), skin.get(),
+        ExpectPieces("margins " + ToText(c.margins) + " dst " + ToText(c.dst), skin.get(), 1, {{c.dst, c.src}},
                      [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
                          return DrawTextureUniform(canvas, &c.dst, skin.get(), &c.margins, filter, alpha, c.center);
-                     },
-                     1, {{c.dst, c.src}});
+                     });
 }
 
 TEST(Layouts, TilesMayBeScaled) {
@@ -100,12 +98,9 @@ TEST(Layouts, TilesMayBeScaled) {
     };
     const OwnedTexture skin = MakeSkin();
     for (const auto& c : cases)
-        ExpectPieces(
-            c.name, skin.get(),
-            [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
-                return DrawTextureTile(canvas, &c.dst, skin.get(), &cell, filter, alpha, c.flags, c.scale);
-            },
-            0, c.pieces);
+        ExpectPieces(c.name, skin.get(), 0, c.pieces, [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
+            return DrawTextureTile(canvas, &c.dst, skin.get(), &cell, filter, alpha, c.flags, c.scale);
+        });
 }
 
 // A tile that the right edge cuts is cut in all further rows, also where nothing is visible.
@@ -130,12 +125,10 @@ TEST(Layouts, TilesAreCutForGood) {
             }
             top = bottom;
         }
-        ExpectPieces(
-            "slice " + ToText(slice) + " dst " + ToText(dst), skin.get(),
-            [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
-                return DrawTextureTile(canvas, &dst, skin.get(), &slice, filter, alpha, 0, 1);
-            },
-            0, pieces);
+        ExpectPieces("slice " + ToText(slice) + " dst " + ToText(dst), skin.get(), 0, pieces,
+                     [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
+                         return DrawTextureTile(canvas, &dst, skin.get(), &slice, filter, alpha, 0, 1);
+                     });
     }
 }
 
@@ -165,12 +158,9 @@ TEST(Layouts, TopTileStretchesTheBottomBandBelowTheTopOne) {
     };
     const OwnedTexture skin = MakeSkin();
     for (const auto& c : cases)
-        ExpectPieces(
-            c.name, skin.get(),
-            [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
-                return DrawTextureTopTile(canvas, &c.dst, skin.get(), &slice, &c.margins, filter, alpha);
-            },
-            0, c.pieces);
+        ExpectPieces(c.name, skin.get(), 0, c.pieces, [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
+            return DrawTextureTopTile(canvas, &c.dst, skin.get(), &slice, &c.margins, filter, alpha);
+        });
 }
 
 TEST(Layouts, RefuseSlicesThatAreEmptyOrLeaveTheTexture) {
@@ -178,14 +168,12 @@ TEST(Layouts, RefuseSlicesThatAreEmptyOrLeaveTheTexture) {
     const RECT dst{0, 0, 100, 90}, margins{5, 5, 5, 5};
     for (const RECT& slice : {RECT{90, 0, 101, 10}, RECT{-1, 0, 5, 5}, RECT{0, 0, 10, 61}, RECT{0, -1, 10, 9},
                               RECT{5, 5, 5, 9}, RECT{5, 9, 9, 9}, RECT{LONG_MAX, 0, LONG_MIN, 9}})
-        ExpectPieces(ToText(slice), skin.get(),
-                     [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
-                         return DrawTextureCenter(canvas, &dst, skin.get(), &slice, filter, alpha) +
-                                DrawTextureTile(canvas, &dst, skin.get(), &slice, filter, alpha, 0, 1) +
-                                DrawTextureTopTile(canvas, &dst, skin.get(), &slice, &margins, filter, alpha) +
-                                DrawTexture9Grid(canvas, &dst, skin.get(), &slice, &margins, filter, 0, alpha, 0, 1, 1);
-                     },
-                     0, {});
+        ExpectPieces(ToText(slice), skin.get(), 0, {}, [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
+            return DrawTextureCenter(canvas, &dst, skin.get(), &slice, filter, alpha) +
+                   DrawTextureTile(canvas, &dst, skin.get(), &slice, filter, alpha, 0, 1) +
+                   DrawTextureTopTile(canvas, &dst, skin.get(), &slice, &margins, filter, alpha) +
+                   DrawTexture9Grid(canvas, &dst, skin.get(), &slice, &margins, filter, 0, alpha, 0, 1, 1);
+        });
 }
 
 TEST(Layouts, AreChosenByTheTexturesMode) {

@@ -75,13 +75,10 @@ TEST(NineGrid, CutsBothSidesAtTheMargins) {
     const OwnedTexture skin = MakeSkin();
     for (const GridCase& c : cases)
         for (const DWORD edgeFlags : {0x0UL, 0xFUL})
-            ExpectPieces(
-                c.name, skin.get(),
-                [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
-                    return DrawTexture9Grid(canvas, &c.dst, skin.get(), &slice, &c.margins, filter, 0, alpha, edgeFlags,
-                                            c.dstScale, c.srcScale);
-                },
-                1, c.pieces);
+            ExpectPieces(c.name, skin.get(), 1, c.pieces, [&](HGCANVAS canvas, DWORD filter, BYTE alpha) {
+                return DrawTexture9Grid(canvas, &c.dst, skin.get(), &slice, &c.margins, filter, 0, alpha, edgeFlags,
+                                        c.dstScale, c.srcScale);
+            });
 }
 
 TEST(NineGrid, FillsItsCentreWithOnePixelOfTheTexture) {

@@ -69,13 +69,3 @@ TEST(Outlines, OtherCanvasesAreDrawnByGdi) {
             }
     EXPECT_GE(lit, 9) << "about half of the 20 pixels of the frame";
 }
-
-TEST(Outlines, StrokedRectanglesRunThroughTheLastPixelsInside) {
-    const RECT rect{2, 2, 12, 12};
-    const OwnedCanvas canvas(CreateCanvas(16, 16, nullptr));
-    EXPECT_EQ(GeoRectangleEx(canvas.get(), &rect, 0xFF00FF00, 2), 1);
-    // A path of 9 x 9 from (2, 2), two wide: one pixel on either side of it.
-    EXPECT_TRUE(Shows(canvas.get(), [](int x, int y) {
-        return Inside({1, 1, 12, 12}, x, y) && !Inside({3, 3, 10, 10}, x, y) ? 0xFF00FF00U : 0U;
-    }));
-}

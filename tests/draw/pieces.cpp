@@ -32,8 +32,8 @@ OwnedTexture MakeSkin() {
 
 OwnedCanvas MakeTarget() { return MakeCanvas(120, 100, PremultipliedPattern{3}); }
 
-void ExpectPieces(const std::string& name, HGTEXTURE texture, const Draw& draw, int result,
-                  const std::vector<Piece>& pieces) {
+void ExpectPieces(const std::string& name, HGTEXTURE texture, int result, const std::vector<Piece>& pieces,
+                  const Draw& draw) {
     for (const Look& look : looks) {
         SetTextureFilter(texture, look.operation);
         const OwnedCanvas canvas = MakeTarget(), wanted = MakeTarget();

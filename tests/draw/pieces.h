@@ -27,7 +27,7 @@ OwnedCanvas MakeTarget();
 using Draw = std::function<int(HGCANVAS canvas, DWORD filter, BYTE alpha)>;
 
 // The draw returns the result and shows the pieces.
-void ExpectPieces(const std::string& name, HGTEXTURE texture, const Draw& draw, int result,
-                  const std::vector<Piece>& pieces);
+void ExpectPieces(const std::string& name, HGTEXTURE texture, int result, const std::vector<Piece>& pieces,
+                  const Draw& draw);
 
 }  // namespace host
