@@ -2,6 +2,8 @@
 option(ZORVIC_WERROR "Treat warnings as errors" OFF)
 option(ZORVIC_BUILD_TESTS "Build the tests" ON)
 option(ZORVIC_BUILD_BENCH "Build zvbench, which measures the library" ON)
+option(ZORVIC_BUILD_FUZZ "Build the fuzz targets (clang only)" OFF)
+set(ZORVIC_FUZZ_SECONDS 60 CACHE STRING "How long CTest runs each fuzz target")
 set(ZORVIC_SANITIZE "" CACHE STRING "Sanitizers for every target, as in -fsanitize=")
 option(ZORVIC_COVERAGE "Have the libraries count which of their lines run" OFF)
 set(ZORVIC_GOOGLETEST_DIR "/usr/src/googletest" CACHE PATH "GoogleTest's sources, built together with the tests")

@@ -6,7 +6,7 @@
 
 #include "raster/cpu_features.h"
 #include "raster/lookup_tables.h"
-#include "support/image.h"
+#include "support/pixel_bytes.h"
 
 namespace zorvic {
 

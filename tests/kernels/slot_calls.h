@@ -24,7 +24,7 @@ struct NamedKernels {
     bool packedWeights;
     Level form = Level::generic;  // of the pixel primitives
 
-    friend void PrintTo(const NamedKernels& kernels, std::ostream* out) { *out << kernels.name; }
+    friend void PrintTo(const NamedKernels& set, std::ostream* out) { *out << set.name; }
 };
 inline constexpr NamedKernels kernelSets[] = {
     {"baseline", &baselineKernels, false},

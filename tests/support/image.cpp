@@ -9,28 +9,12 @@ namespace {
 
 constexpr int guard = 32;  // bytes before the first row
 
-std::byte* PixelAt(const BitmapLockInfo& image, std::int64_t x, std::int64_t y) {
-    return static_cast<std::byte*>(image.bmBits) +
-           static_cast<std::ptrdiff_t>(y * image.bmWidthBytes + x * (image.bmBitsPixel / 8));
-}
-
 std::size_t SizeOf(const BitmapLockInfo& info, int behind) {
     const int lastRow = info.bmWidth * (info.bmBitsPixel / 8);
     return static_cast<std::size_t>(guard + std::max<int>(info.bmHeight - 1, 0) * info.bmWidthBytes + lastRow + behind);
 }
 
 }  // namespace
-
-std::uint32_t ReadPixelBytes(const BitmapLockInfo& image, std::int64_t x, std::int64_t y) {
-    std::uint32_t pixel = 0;
-    for (int i = image.bmBitsPixel / 8; i-- > 0;)
-        pixel = pixel << 8 | std::to_integer<std::uint32_t>(PixelAt(image, x, y)[i]);
-    return pixel;
-}
-
-void WritePixelBytes(const BitmapLockInfo& image, std::int64_t x, std::int64_t y, std::uint32_t pixel) {
-    for (int i = 0; i < image.bmBitsPixel / 8; ++i) PixelAt(image, x, y)[i] = static_cast<std::byte>(pixel >> 8 * i);
-}
 
 Image::Image(int width, int height, int bitsPixel, Margins margins)
     : info{0,  width, height, width * (bitsPixel / 8) + margins.betweenRows, 1, static_cast<WORD>(bitsPixel), {},

@@ -10,14 +10,11 @@
 #include <vector>
 
 #include "support/fenced_memory.h"
+#include "support/pixel_bytes.h"
 #include "support/random.h"
 #include "zorvic/types.h"
 
 namespace zorvic {
-
-// A pixel as the number that its bytes make, 8, 24 or 32 bits.
-std::uint32_t ReadPixelBytes(const BitmapLockInfo& image, std::int64_t x, std::int64_t y);
-void WritePixelBytes(const BitmapLockInfo& image, std::int64_t x, std::int64_t y, std::uint32_t pixel);
 
 // Bytes between two rows, and behind the last one before the inaccessible page. Odd numbers misalign the rows.
 struct Margins {

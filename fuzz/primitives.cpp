@@ -1,0 +1,166 @@
+// The primitives on images that a caller describes, with any number in the record: exactly the memory that the record
+// describes is there. Every level gives what the generic one gives, and a job that fails changes nothing.
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <vector>
+
+#include "pixel/described_images.h"
+#include "pixel/primitive_set.h"
+#include "support/fenced_image.h"
+
+namespace zorvic {
+
+namespace {
+
+enum class Primitive { copy, copyArea, mirror, mirrorInPlace, blend, setColor, setColorKeepAlpha, bitOr, bitAnd, blur };
+constexpr int primitiveCount = 10;
+
+constexpr bool IsPacked(Primitive primitive) { return primitive == Primitive::bitOr || primitive == Primitive::bitAnd; }
+
+struct Job {
+    Primitive primitive;
+    int number;  // axis or box
+    DWORD color;
+    RECT area;
+};
+
+bool Run(const Job& job, const BITMAP& src, const BITMAP& dst) {
+    switch (job.primitive) {
+        case Primitive::copy:
+            return CopyImage(src, dst, nullptr);
+        case Primitive::copyArea:
+            return CopyImage(src, dst, &job.area);
+        case Primitive::mirror:
+            return MirrorImage(src, dst, job.number);
+        case Primitive::mirrorInPlace:
+            return MirrorImage(dst, job.number);
+        case Primitive::blend:
+            return BlendImage(src, dst);
+        case Primitive::setColor:
+            return SetImageColor(dst, job.color, false);
+        case Primitive::setColorKeepAlpha:
+            return SetImageColor(dst, job.color, true);
+        case Primitive::bitOr:
+            return OrImage(src, dst, job.color);
+        case Primitive::bitAnd:
+            return AndImage(src, dst, job.color);
+        case Primitive::blur:
+            return BlurImage(dst, job.number);
+    }
+    return false;
+}
+
+BITMAP ReadRecord(Input& input) {
+    constexpr WORD depths[] = {32, 32, 32, 24, 24, 0, 8, 1, 16, 64, 65535};
+    const int kind = input.Byte();
+    BITMAP record{};
+    record.bmWidth = (kind & 3) == 3 ? input.Number() : input.Extent();
+    record.bmHeight = (kind & 12) == 12 ? input.Number() : 1 + input.Below(24);
+    record.bmBitsPixel = (kind & 16) != 0 ? input.Pick(depths) : WORD{32};
+    const std::int64_t packed = std::int64_t{record.bmWidth} * (record.bmBitsPixel == 24 ? 3 : 4);
+    const auto step = static_cast<LONG>(std::clamp<std::int64_t>(packed, -0x40000000, 0x40000000));
+    switch (kind >> 5) {
+        case 0:
+        case 1:
+            record.bmWidthBytes = step;
+            break;
+        case 2:
+        case 3:
+            record.bmWidthBytes = step + input.Below(20);
+            break;
+        case 4:
+            record.bmWidthBytes = -step;
+            break;
+        case 5:
+            record.bmWidthBytes = 0;
+            break;
+        default:
+            record.bmWidthBytes = input.Number();
+    }
+    return record;
+}
+
+constexpr auto most = static_cast<std::int64_t>(fencedBytes);
+
+// rows x bytes, or too many.
+std::int64_t Product(std::int64_t rows, std::int64_t bytes) {
+    return bytes > 0 && rows > most / bytes ? most + 1 : rows * bytes;
+}
+
+// The memory that a record describes; first: where the image's bits lie in it.
+struct Described {
+    std::int64_t bytes, first;
+};
+
+Described Describe(const BITMAP& record, bool isPacked) {
+    if (record.bmHeight < 1) return {0, 0};
+    const std::int64_t bits = record.bmBitsPixel == 0 ? 32 : record.bmBitsPixel;
+    const std::int64_t pixels = std::max<std::int64_t>(std::int64_t{record.bmWidth} * bits / 8, 0);
+    const std::int64_t step = record.bmWidthBytes, stride = std::abs(step), height = record.bmHeight;
+    if (isPacked) return {Product(height, std::max(stride, pixels)), 0};
+    if (step == 0) return {pixels, 0};
+    return {Product(height, stride), step < 0 ? (height - 1) * stride : 0};
+}
+
+// Mirrors of rows that overlap give undefined pixels.
+bool IsUndefined(const Job& job, const BITMAP& image) {
+    return job.primitive == Primitive::mirrorInPlace &&
+           std::abs(std::int64_t{image.bmWidthBytes}) < std::int64_t{4} * image.bmWidth;
+}
+
+}  // namespace
+
+void RunInput(Input& input) {
+    Job job{static_cast<Primitive>(input.Below(primitiveCount)), input.Byte() % 4, input.Word(), {}};
+    const Level level = static_cast<Level>(input.Byte() & 3);
+    const int flags = input.Byte();
+    if ((flags & 3) == 3) job.number = input.Number();
+    if (job.primitive == Primitive::copyArea) job.area = input.Rect();
+    BITMAP src = ReadRecord(input), dst = (flags & 4) != 0 ? src : ReadRecord(input);
+    if ((flags & 8) != 0) {
+        dst.bmWidth = src.bmWidth;
+        dst.bmHeight = src.bmHeight;
+    }
+
+    const Described from = Describe(src, IsPacked(job.primitive)), to = Describe(dst, IsPacked(job.primitive));
+    if (from.bytes > most || to.bytes > most || IsUndefined(job, dst)) return;
+    // Rows that are all the same take no memory, but their time.
+    const auto takesLong = [](const BITMAP& record) { return record.bmWidthBytes == 0 && record.bmHeight > 1000; };
+    if (takesLong(src) || takesLong(dst)) return;
+    // So do mirrors between images that overlap.
+    const bool overlaps = (flags & 16) != 0 && job.primitive != Primitive::mirror;
+    const bool fenceBehind = (flags & 32) == 0;
+    const std::int64_t bytes = overlaps ? std::max(from.bytes, to.bytes) : to.bytes;
+    const auto slack = [&](std::int64_t needed) { return overlaps ? input.Below(65536) % (bytes - needed + 1) : 0; };
+    const std::int64_t srcAt = slack(from.bytes) + from.first, dstAt = slack(to.bytes) + to.first;
+
+    Random random = input.Seed();
+    const auto fill = [&](std::span<std::byte> memory) {
+        for (std::size_t i = 0; i < memory.size(); ++i) memory[i] = static_cast<std::byte>(random.Word());
+        return memory;
+    };
+    const auto source =
+        fill(TakeFenced(Fence::source, overlaps ? 0 : static_cast<std::size_t>(from.bytes), fenceBehind));
+    const auto target = fill(TakeFenced(Fence::target, static_cast<std::size_t>(bytes), fenceBehind));
+    const auto wanted = TakeFenced(Fence::wanted, target.size(), fenceBehind);
+    std::ranges::copy(target, wanted.begin());
+    const std::vector<std::byte> before(target.begin(), target.end());
+
+    const auto runOn = [&](std::span<std::byte> memory, Level onLevel) {
+        LimitLevel(onLevel);
+        src.bmBits = (flags & 64) != 0 ? nullptr : (overlaps ? memory : source).data() + srcAt;
+        dst.bmBits = (flags & 192) == 192 ? nullptr : memory.data() + dstAt;
+        return Run(job, src, dst);
+    };
+    const bool done = runOn(wanted, Level::generic);
+    if (runOn(target, level) != done) Fail("primitive %d: results differ", static_cast<int>(job.primitive));
+    const auto differs = std::ranges::mismatch(target, wanted).in1 - target.begin();
+    if (differs != std::ssize(target))
+        Fail("primitive %d, level %d: byte %td differs", static_cast<int>(job.primitive), static_cast<int>(level),
+             differs);
+    if (!done && !std::ranges::equal(target, before))
+        Fail("primitive %d fails and changes pixels", static_cast<int>(job.primitive));
+}
+
+}  // namespace zorvic
