@@ -16,8 +16,6 @@ namespace {
 enum class Primitive { copy, copyArea, mirror, mirrorInPlace, blend, setColor, setColorKeepAlpha, bitOr, bitAnd, blur };
 constexpr int primitiveCount = 10;
 
-constexpr bool IsPacked(Primitive primitive) { return primitive == Primitive::bitOr || primitive == Primitive::bitAnd; }
-
 struct Job {
     Primitive primitive;
     int number;  // axis or box
@@ -88,19 +86,23 @@ std::int64_t Product(std::int64_t rows, std::int64_t bytes) {
     return bytes > 0 && rows > most / bytes ? most + 1 : rows * bytes;
 }
 
-// The memory that a record describes; first: where the image's bits lie in it.
+// The memory that a record describes; first: where the image's bits lie in it. Its last row ends with its pixels, which
+// all primitives but copies and blurs take for four bytes each.
 struct Described {
     std::int64_t bytes, first;
 };
 
-Described Describe(const BITMAP& record, bool isPacked) {
-    if (record.bmHeight < 1) return {0, 0};
+Described Describe(const BITMAP& record, Primitive primitive) {
+    if (record.bmHeight < 1 || record.bmWidth < 1) return {0, 0};
     const std::int64_t bits = record.bmBitsPixel == 0 ? 32 : record.bmBitsPixel;
-    const std::int64_t pixels = std::max<std::int64_t>(std::int64_t{record.bmWidth} * bits / 8, 0);
-    const std::int64_t step = record.bmWidthBytes, stride = std::abs(step), height = record.bmHeight;
-    if (isPacked) return {Product(height, std::max(stride, pixels)), 0};
-    if (step == 0) return {pixels, 0};
-    return {Product(height, stride), step < 0 ? (height - 1) * stride : 0};
+    const std::int64_t ownRow = record.bmWidth * bits / 8, step = std::abs(std::int64_t{record.bmWidthBytes});
+    const bool ownPixels = primitive <= Primitive::copyArea || primitive == Primitive::blur;
+    const std::int64_t row = ownPixels ? ownRow : std::max(ownRow, std::int64_t{4} * record.bmWidth);
+    const bool isPacked = primitive == Primitive::bitOr || primitive == Primitive::bitAnd;
+    const std::int64_t distance = isPacked ? std::max(step, ownRow) : step;
+    const std::int64_t toLastRow = Product(record.bmHeight - std::int64_t{1}, distance);
+    return {toLastRow + (distance == 0 ? ownRow : std::min(distance, row)),
+            !isPacked && record.bmWidthBytes < 0 ? toLastRow : 0};
 }
 
 // Mirrors of rows that overlap give undefined pixels.
@@ -123,7 +125,7 @@ void RunInput(Input& input) {
         dst.bmHeight = src.bmHeight;
     }
 
-    const Described from = Describe(src, IsPacked(job.primitive)), to = Describe(dst, IsPacked(job.primitive));
+    const Described from = Describe(src, job.primitive), to = Describe(dst, job.primitive);
     if (from.bytes > most || to.bytes > most || IsUndefined(job, dst)) return;
     // Rows that are all the same take no memory, but their time.
     const auto takesLong = [](const BITMAP& record) { return record.bmWidthBytes == 0 && record.bmHeight > 1000; };

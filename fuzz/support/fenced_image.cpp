@@ -1,34 +1,26 @@
 #include "support/fenced_image.h"
 
 #include <sanitizer/asan_interface.h>
-#include <sys/mman.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
 
 #include "raster/image.h"
+#include "support/fenced_memory.h"
 
 namespace zorvic {
 
 namespace {
 
-constexpr std::size_t page = 4096;
 constexpr std::uint32_t gapWord = 0xA5C3A5C3;
-
-std::byte* MapBetweenFences() {
-    void* const pages = mmap(nullptr, fencedBytes + 2 * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    auto* const first = static_cast<std::byte*>(pages) + page;
-    if (pages == MAP_FAILED || mprotect(first, fencedBytes, PROT_READ | PROT_WRITE) != 0) Fail("no memory");
-    return first;
-}
 
 }  // namespace
 
 std::span<std::byte> TakeFenced(Fence fence, std::size_t bytes, bool fenceBehind) {
-    static std::byte* const memory[] = {MapBetweenFences(), MapBetweenFences(), MapBetweenFences(), MapBetweenFences()};
+    static const FencedBlocks blocks(4, fencedBytes);
     if (bytes > fencedBytes) Fail("%zu bytes do not fit between the fences", bytes);
-    std::byte* const all = memory[static_cast<int>(fence)];
+    std::byte* const all = blocks.Block(static_cast<std::size_t>(fence));
     std::byte* const first = fenceBehind ? all + fencedBytes - bytes : all;
     ASAN_POISON_MEMORY_REGION(all, fencedBytes);
     ASAN_UNPOISON_MEMORY_REGION(first, bytes);

@@ -19,13 +19,14 @@ inline constexpr std::size_t fencedBytes = 1 << 18;
 // A block of at most that many bytes with the fence behind it, or before it.
 std::span<std::byte> TakeFenced(Fence fence, std::size_t bytes, bool fenceBehind = true);
 
-// The size of an image that fits, whatever its depth and gaps.
+// The size of an image that fits, whatever its depth and gaps, and is quick to fill.
 SIZE ReadSize(Input& input);
-// Whether one of width x height pixels does.
+// Whether one of width x height pixels is such an image.
 constexpr bool FitsFence(std::int64_t width, std::int64_t height) {
     constexpr std::int64_t gapBytes = 40, otherBytes = 1100;  // the largest gap; a palette and an offset
-    constexpr std::int64_t bytes = fencedBytes - otherBytes;
-    return width >= 1 && height >= 1 && width <= bytes / 4 && height <= bytes / (4 * width + gapBytes);
+    constexpr std::int64_t bytes = fencedBytes - otherBytes, pixels = 2600;
+    if (width < 1 || height < 1 || width > bytes / 4 || height > bytes / (4 * width + gapBytes)) return false;
+    return height == 1 || width * height <= pixels;
 }
 
 // How an image lies in memory.
