@@ -69,9 +69,11 @@ void Run(Effect effect, const Numbers& numbers, const BitmapLockInfo& dst, const
         case Effect::colorize:
             return ColorizeImage(dst, numbers.amounts);
         case Effect::boxBlur:
-            return BoxBlur(dst, src);
+            BoxBlur(dst, src);
+            return;
         case Effect::blurInPlace:
-            return BoxBlur(dst, dst);
+            BoxBlur(dst, dst);
+            return;
         case Effect::boxFilter:
             return RunBoxFilter(dst, src, numbers.box);
         case Effect::move:
