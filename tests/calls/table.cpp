@@ -72,8 +72,9 @@ Export Of(const char* name, Result (*function)(Parameters...), std::vector<const
 }  // namespace
 
 const std::vector<Export>& Exports() {
+#define EXPORT(name, function, ...) Of(#name, name, {__VA_ARGS__}),
     static const std::vector<Export> exports = {
-#include "exports.inc"
+#include "every_export.inl"
     };
     return exports;
 }
