@@ -24,6 +24,7 @@ const struct {
     {"copy", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, nullptr); }, 1, {0x80402010, 0, 3, 4, 5, 6}},
     {"copy a row", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, &lastRow); }, 1, {~0UL, ~0UL, ~0UL, 4, 5, ~0UL}},
     {"copy too much", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, &tooWide); }, 0, Words(6, ~0UL)},
+    {"copy of 16 bits", [](BITMAP* s, BITMAP* d) { return s->bmBitsPixel = 16, CopyBitmap_IPP(s, d, nullptr); }, 0, Words(6, ~0UL)},
     {"mirror rows", [](BITMAP* s, BITMAP* d) { return MirrorEx(s, d, 0); }, 1, {4, 5, 6, 0x80402010, 0, 3}},
     {"mirror columns", [](BITMAP* s, BITMAP* d) { return MirrorEx(s, d, 1); }, 1, {3, 0, 0x80402010, 6, 5, 4}},
     {"mirror both", [](BITMAP* s, BITMAP* d) { return MirrorEx(s, d, 2); }, 1, {6, 5, 4, 3, 0, 0x80402010}},

@@ -116,7 +116,7 @@ const Operation operations[] = {
 TEST(Records, OfAreasKeepEveryOperationInside) {
     Random random(1);
     for (const Operation& operation : operations)
-        for (int round = 0; round < 4000; ++round) {
+        for (int round = 0; round < 2000; ++round) {
             const auto make = [&] {
                 const bool upwards = operation.usesSteps && random.Below(4) == 0;
                 return Described(random, operation.knows24 && random.Below(2) ? 24 : 32, upwards);

@@ -29,9 +29,11 @@ TEST(CopyImage, CopiesAllOrAnArea) {
             EXPECT_TRUE(CopyImage(RecordOf(src), RecordOf(dst), &area));
             EXPECT_TRUE(SameBytes(dst, wanted)) << bitsPixel << " bits, left " << area.left;
         }
-        Image dst(random, 11, 6, bitsPixel, {3, 0});
+        Image dst(random, 11, 6, bitsPixel, {5, 0});
         EXPECT_TRUE(CopyImage(RecordOf(src), RecordOf(dst), nullptr));
         EXPECT_EQ(dst.Pixels(), src.Pixels());
+        const RECT beyond{0, 0, 12, 1};  // the step has room for it
+        EXPECT_FALSE(CopyImage(RecordOf(dst), RecordOf(dst), &beyond));
     }
 }
 
