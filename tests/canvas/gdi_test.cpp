@@ -1,4 +1,4 @@
-// Drawing together with GDI: GDI on a canvas's surface, and a canvas on a host's device context of any kind.
+// Drawing on a host's device context: where rows lie, what scaling does, and two locks at once.
 #include "canvas/targets.h"
 
 using namespace host;
@@ -8,22 +8,6 @@ namespace {
 constexpr RECT everything{-1000, -1000, 1000, 1000};
 
 }  // namespace
-
-TEST(CanvasGdi, DrawsOnTheSurface) {
-    const OwnedCanvas canvas(CreateCanvas(20, 15, nullptr));
-    FillPreMulColorRectEx(canvas.get(), 0xFF405060, &everything, ZORVIC_OP_COPY);
-    SetViewportOrg(canvas.get(), 2, 1, nullptr);
-    const HDC dc = GetCanvasHandle(canvas.get());
-    const HGDIOBJ pen = SelectObject(dc, GetStockObject(BLACK_PEN));
-    const HGDIOBJ brush = SelectObject(dc, GetStockObject(WHITE_BRUSH));
-    ASSERT_TRUE(Rectangle(dc, 3, 4, 13, 10));
-    SelectObject(dc, pen);
-    SelectObject(dc, brush);
-    EXPECT_TRUE(Shows(canvas.get(), [](int x, int y) -> DWORD {
-        if (Inside({6, 6, 14, 10}, x, y)) return 0x00FFFFFF;  // GDI knows no alpha
-        return Inside({5, 5, 15, 11}, x, y) ? 0 : 0xFF405060;
-    }));
-}
 
 // Every row order has its own mistake: each area of rows, the middle one of 9 among them.
 TEST(CanvasGdi, DrawsOnTheRightRows) {

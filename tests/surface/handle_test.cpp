@@ -68,21 +68,6 @@ TEST(BitmapHandle, ConversionKeepsThePictureAndIsDoneOnce) {
             }
 }
 
-// Depths without a kernel of their own are read as 32-bit words, so that words of the last row lie behind its pixels.
-// The block is large enough for the heap to give it pages of its own, which end with it.
-TEST(BitmapHandle, ConversionOfOtherDepthsStaysInsideTheBlock) {
-    for (const int bitsPixel : {9, 16}) {
-        const OwnedBitmap bitmap = MakeBitmap(32767, 64, bitsPixel);
-        BITMAP image{};
-        MEMORY_BASIC_INFORMATION pages{};
-        ASSERT_EQ(LockBitmapBits(bitmap.get(), &image, nullptr), 1);
-        ASSERT_NE(VirtualQuery(image.bmBits, &pages, sizeof pages), 0U);
-        const BYTE* end = static_cast<BYTE*>(pages.BaseAddress) + pages.RegionSize;
-        EXPECT_GE(end - static_cast<BYTE*>(image.bmBits), 63 * image.bmWidthBytes + 4 * image.bmWidth) << bitsPixel;
-        EXPECT_NE(GetBitmapHandle(bitmap.get()), nullptr) << bitsPixel;
-    }
-}
-
 TEST(BitmapHandle, WhatCannotBeLockedLosesItsPixels) {
     const OwnedBitmap bitmap = MakeBitmap(8, 8, 4, 16);
     SIZE size{1, 1};
@@ -94,16 +79,6 @@ TEST(BitmapHandle, WhatCannotBeLockedLosesItsPixels) {
     EXPECT_EQ(GetBitmapBitsPixel(bitmap.get(), &depth), 1);
     EXPECT_EQ(depth, 0);
     EXPECT_EQ(CopyBitmap(bitmap.get(), nullptr, bitmap.get(), nullptr), 1);
-}
-
-TEST(BitmapHandle, DiesWithTheBitmap) {
-    OwnedBitmap made(CreateSystemBitmap(4, 4));
-    OwnedBitmap converted = MakeBitmap(4, 4);
-    const HBITMAP handles[] = {GetBitmapHandle(made.get()), GetBitmapHandle(converted.get())};
-    for (const HBITMAP handle : handles) EXPECT_EQ(GetObjectType(handle), static_cast<DWORD>(OBJ_BITMAP));
-    made.reset();
-    converted.reset();
-    for (const HBITMAP handle : handles) EXPECT_EQ(GetObjectType(handle), 0U);
 }
 
 }  // namespace
