@@ -56,22 +56,12 @@ void CheckAllBytes(Third third, const std::vector<Drawing>& forms, const Formula
 }
 
 Third ThirdOf(Op op) {
-    switch (op) {
-        case Op::sourceOver:
-            return Third::sourceAlpha;
-        case Op::destinationOver:
-            return Third::destinationAlpha;
-        case Op::grayWash:
-            return Third::destinationRed;
-        case Op::constantAlpha:
-        case Op::opaqueAlpha:
-        case Op::colorKey:
-        case Op::crossFade:
-        case Op::mixColor:
-            return Third::argument;
-        default:
-            return Third::unused;
-    }
+    if (op == Op::sourceOver) return Third::sourceAlpha;
+    if (op == Op::destinationOver) return Third::destinationAlpha;
+    if (op == Op::grayWash) return Third::destinationRed;
+    const bool hasArgument = op == Op::constantAlpha || op == Op::opaqueAlpha || op == Op::colorKey ||
+                             op == Op::crossFade || op == Op::mixColor;
+    return hasArgument ? Third::argument : Third::unused;
 }
 
 // Samples of the source as it is: at its own size, from one color, or filtered without a weight for neighbours.

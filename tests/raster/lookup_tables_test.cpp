@@ -5,12 +5,8 @@
 
 #include <cmath>
 
-#include "raster/cpu_features.h"
-
 namespace zorvic {
 namespace {
-
-constexpr std::uint32_t modes[] = {0, 1, 2, 3, 0xFFFFFFFF};
 
 // The filters in double precision, as their usual polynomials.
 double Weight(std::uint32_t mode, double x) {
@@ -18,46 +14,24 @@ double Weight(std::uint32_t mode, double x) {
     return x < 1 ? (x - 1) * (x * x - x - 1) : (1 - x) * (x - 2) * (x - 2);
 }
 
-// The number that both halves of a packed entry hold.
-int Unpacked(std::int32_t entry) {
-    EXPECT_EQ(entry & 0xFFFF, entry >> 16 & 0xFFFF);
-    return static_cast<std::int16_t>(entry & 0xFFFF);
-}
-
-class StretchWeights : public testing::Test {
-protected:
-    StretchWeights() : savedFeatures(ProcessorFeatures), savedMode(StretchKernelMode) {}
-    ~StretchWeights() override {
-        ProcessorFeatures = savedFeatures;
-        StretchKernelMode = savedMode;
-        BuildStretchFilterWeights();
-    }
-
-private:
-    CpuFeatures savedFeatures;
-    std::uint32_t savedMode;
-};
-
-TEST_F(StretchWeights, FollowTheFilterAtEveryDistance) {
-    for (const bool packed : {true, false})
-        for (const std::uint32_t mode : modes) {
-            ProcessorFeatures.cpuHasMMX = packed;
-            StretchKernelMode = mode;
-            BuildStretchFilterWeights();
-            for (int i = 0; i <= 512; ++i) {
-                const std::int32_t entry = StretchFilterWeights[static_cast<std::size_t>(i)];
-                const double scaled = Weight(mode, i / 256.0) * (packed ? 16384 : 256) + 0.5;
+TEST(StretchWeights, FollowTheFilterAtEveryDistance) {
+    for (const auto encoding : {WeightEncoding::packed16384, WeightEncoding::plain256})
+        for (const std::uint32_t mode : {0U, 1U, 2U, 3U, 0xFFFFFFFFU}) {
+            const bool packed = encoding == WeightEncoding::packed16384;
+            const FilterWeights weights = MakeFilterWeights(mode, encoding);
+            for (std::size_t i = 0; i <= 512; ++i) {
+                const double scaled = Weight(mode, static_cast<double>(i) / 256) * (packed ? 16384 : 256) + 0.5;
+                const int got = packed ? static_cast<std::int16_t>(weights[i] & 0xFFFF) : weights[i];
                 // Truncated toward zero; single precision may be off by less than a twentieth.
-                const int got = packed ? Unpacked(entry) : entry;
                 EXPECT_TRUE(got == std::trunc(scaled - 0.05) || got == std::trunc(scaled + 0.05))
                     << "entry " << i << " of mode " << mode << (packed ? ", packed" : "") << ": got " << got
                     << ", wanted the whole part of " << scaled;
+                EXPECT_TRUE(!packed || (weights[i] >> 16) == got) << "the halves of entry " << i << " differ";
             }
         }
 }
 
-TEST_F(StretchWeights, ChangeWithTheMode) {
-    ProcessorFeatures.cpuHasMMX = true;
+TEST(StretchWeights, ChangeWithTheMode) {
     EXPECT_EQ(StretchKernelMode, 1U);
     EXPECT_FALSE(SetStretchKernelMode(1));
     EXPECT_TRUE(SetStretchKernelMode(0));
