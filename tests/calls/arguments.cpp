@@ -164,7 +164,7 @@ void Arguments::Fill(BITMAP& image) {
     // Two calls take rows without gaps, whatever the step is; for the others negative ones run upwards.
     const bool isPacked = callee.starts_with("ARGB");
     const std::int64_t step = image.bmWidthBytes, taken = step == 0 || isPacked ? std::max(rowBytes, step) : step;
-    if (taken > 0) image.bmHeight = std::min(image.bmHeight, static_cast<LONG>(Fence::capacity / taken));
+    if (taken > 0) image.bmHeight = std::min(image.bmHeight, static_cast<LONG>(std::int64_t{Fence::capacity} / taken));
     const std::int64_t rows = taken > 0 ? std::max(image.bmHeight, 0L) : 0;
     std::byte* const first = PlaceImage(taken * rows);
     image.bmBits = Rarely(32) ? nullptr : first;
