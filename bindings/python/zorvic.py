@@ -332,7 +332,8 @@ def CreateMemBitmapEx(width, height, bitsPixel, colorCount):
 
 @_export(None, HGBITMAP)
 def DeleteBitmap(bitmap):
-    """Deletes a bitmap or texture and the pixels it owns. None is ignored."""
+    """Deletes a bitmap or texture and the pixels it owns. None is ignored, and so is the surface of
+    a canvas."""
     return (bitmap,)
 
 
@@ -442,7 +443,7 @@ def GetTexture(canvas):
 @_export(HGTEXTURE, HGBITMAP)
 def BitmapToTexture(bitmap):
     """Turns a bitmap into a texture: the pixels move, the bitmap is deleted and its handle ends.
-    Returns: None for None"""
+    Returns: None for None and for the surface of a canvas"""
     return (bitmap,)
 
 
@@ -747,7 +748,7 @@ def GetCanvasBkColor(canvas, color):
 def SetCanvasClipRect(canvas, rect):
     """Replaces the clip: nothing is drawn outside it. It is cut to the surface and does not move with the origins.
     rect: logical pixels
-    Returns: 1; 0 for None"""
+    Returns: 1; 0 for None, or when GDI refuses, and the clip stays as it was"""
     return (canvas, rect)
 
 
@@ -759,7 +760,7 @@ def SetCanvasClipRoundRect(canvas, rect, corner):
 
 @_export(c_int, HGCANVAS, POINTER(RECT))
 def IntersectCanvasClipRect(canvas, rect):
-    """Cuts the clip to a rectangle in logical pixels. Returns: 1; 0 for None"""
+    """Cuts the clip to a rectangle in logical pixels. Returns: as SetCanvasClipRect"""
     return (canvas, rect)
 
 
@@ -1536,7 +1537,8 @@ def CreateTextureRgn(texture, area):
     operation word is 0 (OP_COPY) alpha does not count, and the region is the whole area.
     texture: 8 (palette), 24 (always the whole area) or 32 bits; a bitmap will do
     area: surface pixels, inside the surface; None, all of it. Its corner is the region's origin
-    Returns: a region that is the caller's to delete; None for None, an area that is not inside, or another depth"""
+    Returns: a region that is the caller's to delete; None for None, an area that is not inside, another depth, or
+        when memory is short"""
     return (texture, area)
 
 

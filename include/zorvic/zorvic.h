@@ -327,13 +327,13 @@ ZORVIC_API int ZORVIC_CALL GetCanvasBkColor(HGCANVAS canvas, DWORD* color);
 
 /** Replaces the clip: nothing is drawn outside it. It is cut to the surface and does not move with the origins.
  *  \param rect  logical pixels
- *  \return 1; 0 for NULL */
+ *  \return 1; 0 for NULL, or when GDI refuses, and the clip stays as it was */
 ZORVIC_API int ZORVIC_CALL SetCanvasClipRect(HGCANVAS canvas, const RECT* rect);
 
 /** SetCanvasClipRect: the clip is a rectangle, the corner has no effect. */
 ZORVIC_API int ZORVIC_CALL SetCanvasClipRoundRect(HGCANVAS canvas, const RECT* rect, const RECT* corner);
 
-/** Cuts the clip to a rectangle in logical pixels. \return 1; 0 for NULL */
+/** Cuts the clip to a rectangle in logical pixels. \return as SetCanvasClipRect */
 ZORVIC_API int ZORVIC_CALL IntersectCanvasClipRect(HGCANVAS canvas, const RECT* rect);
 
 /** Writes the clip in logical pixels; the device context's clip box, once there is one. \return 1; 0 for NULL */
@@ -905,7 +905,8 @@ ZORVIC_API int ZORVIC_CALL BlurTexture(HGTEXTURE dst, HGTEXTURE src);
  *  operation word is 0 (ZORVIC_OP_COPY) alpha does not count, and the region is the whole area.
  *  \param texture  8 (palette), 24 (always the whole area) or 32 bits; a bitmap will do
  *  \param area     surface pixels, inside the surface; NULL, all of it. Its corner is the region's origin
- *  \return a region that is the caller's to delete; NULL for NULL, an area that is not inside, or another depth */
+ *  \return a region that is the caller's to delete; NULL for NULL, an area that is not inside, another depth, or
+ *          when memory is short */
 ZORVIC_API HRGN ZORVIC_CALL CreateTextureRgn(HGTEXTURE texture, const RECT* area);
 
 /* -------------------------------------------------------------------------------------- pixels in the host's memory

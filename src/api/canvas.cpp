@@ -93,8 +93,7 @@ int ZORVIC_CALL GetCanvasBkColor(HGCANVAS canvas, DWORD* color) {
 
 int ZORVIC_CALL SetCanvasClipRect(HGCANVAS canvas, const RECT* rect) {
     if (!canvas || !rect) return 0;
-    FromHandle(canvas)->SetClip(*rect);
-    return 1;
+    return FromHandle(canvas)->SetClip(*rect);
 }
 
 int ZORVIC_CALL SetCanvasClipRoundRect(HGCANVAS canvas, const RECT* rect, const RECT*) {
@@ -103,8 +102,7 @@ int ZORVIC_CALL SetCanvasClipRoundRect(HGCANVAS canvas, const RECT* rect, const 
 
 int ZORVIC_CALL IntersectCanvasClipRect(HGCANVAS canvas, const RECT* rect) {
     if (!canvas || !rect) return 0;
-    FromHandle(canvas)->IntersectClip(*rect);
-    return 1;
+    return FromHandle(canvas)->IntersectClip(*rect);
 }
 
 int ZORVIC_CALL GetCanvasClipRect(HGCANVAS canvas, RECT* rect) {

@@ -9,11 +9,13 @@ namespace zorvic {
 
 namespace {
 
-// Replaces the clip region by a rectangle in device pixels.
-void SelectClip(HDC dc, const RECT& device) {
+// Replaces the clip region by a rectangle in device pixels; false when GDI refuses.
+bool SelectClip(HDC dc, const RECT& device) {
     const HRGN region = CreateRectRgnIndirect(&device);
-    ExtSelectClipRgn(dc, region, RGN_COPY);
+    if (!region) return false;  // without a region GDI would end all clipping
+    const bool selected = ExtSelectClipRgn(dc, region, RGN_COPY) != ERROR;
     DeleteObject(region);
+    return selected;
 }
 
 }  // namespace
@@ -45,8 +47,10 @@ std::unique_ptr<Canvas> Canvas::FromDc(HDC hostDc) {
 HDC Canvas::MakeDc() {
     if (Dc()) return Dc();
     const HDC dc = memoryDc.emplace(surface->ToSystem()).Get();
-    if (!dc) return nullptr;
-    SelectClip(dc, clip);
+    if (!dc || !SelectClip(dc, clip)) {
+        memoryDc.reset();
+        return nullptr;
+    }
     SetViewportOrgEx(dc, viewportOrg.x, viewportOrg.y, nullptr);
     SetWindowOrgEx(dc, windowOrg.x, windowOrg.y, nullptr);
     BindVectorCanvas();
@@ -65,17 +69,20 @@ int Canvas::SetWindowOrg(POINT origin, POINT* previous) {
     return Dc() ? SetWindowOrgEx(Dc(), origin.x, origin.y, previous) : 1;
 }
 
-void Canvas::SetClip(const RECT& logical) {
+bool Canvas::SetClip(const RECT& logical) {
     const RECT device = ToDevice(logical);
-    if (Dc()) SelectClip(Dc(), device);
-    if (!surface) return;
+    if (Dc() && !SelectClip(Dc(), device)) return false;
+    if (!surface) return true;
     const SIZE size = surface->Size();
     clip = Intersection(device, {0, 0, size.cx, size.cy});
+    return true;
 }
 
-void Canvas::IntersectClip(const RECT& logical) {
-    if (Dc()) IntersectClipRect(Dc(), logical.left, logical.top, logical.right, logical.bottom);
+bool Canvas::IntersectClip(const RECT& logical) {
+    if (Dc() && IntersectClipRect(Dc(), logical.left, logical.top, logical.right, logical.bottom) == ERROR)
+        return false;
     clip = Intersection(clip, ToDevice(logical));
+    return true;
 }
 
 RECT Canvas::ClipBox() const {

@@ -40,8 +40,9 @@ public:
     RECT ToDevice(const RECT& logical) const { return Offset(logical, viewportOrg - windowOrg); }
     RECT ToLogical(const RECT& device) const { return Offset(device, windowOrg - viewportOrg); }
 
-    void SetClip(const RECT& logical);
-    void IntersectClip(const RECT& logical);
+    // False, and the clip stays, when GDI refuses.
+    bool SetClip(const RECT& logical);
+    bool IntersectClip(const RECT& logical);
     // The clip in logical pixels, as the host sees it: the device context's clip box, once there is one.
     RECT ClipBox() const;
     // What drawing is clipped to, in logical pixels: the clip, or the clip box of a host's device context.

@@ -51,6 +51,7 @@ bool CanvasLock::CopyFromDc() {
     description.bmHeight = area.bottom - area.top;
     if (!copy.emplace().Create(&description, 0)) return false;
     const MemoryDc memoryDc(copy->Handle());
+    if (!memoryDc.Get()) return false;
     BitBlt(memoryDc.Get(), 0, 0, description.bmWidth, description.bmHeight, canvas.hostDc, area.left, area.top,
            SRCCOPY);
     return copy->LockEx(&info, nullptr);

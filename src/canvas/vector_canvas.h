@@ -6,12 +6,11 @@
 
 namespace zorvic {
 
-// One saved state of a backend canvas. Empty without one.
+// One saved state of a backend canvas. Empty without one, or when its state cannot be saved.
 class VectorSave {
 public:
-    explicit VectorSave(VekCanvas savedCanvas) : canvas(savedCanvas) {
-        if (canvas) vekCanvasSave(canvas);
-    }
+    explicit VectorSave(VekCanvas savedCanvas)
+        : canvas(savedCanvas && vekCanvasSave(savedCanvas) ? savedCanvas : nullptr) {}
     ~VectorSave() {
         if (canvas) vekCanvasRestore(canvas);
     }

@@ -19,26 +19,27 @@ struct VekBitmapDeleter {
 };
 using OwnedVekBitmap = std::unique_ptr<VekBitmap__, VekBitmapDeleter>;
 
-void DrawInto(VekCanvas mask, const BitmapLockInfo& pixels) {
+bool DrawInto(VekCanvas mask, const BitmapLockInfo& pixels) {
     const OwnedVekBitmap bitmap(
         vekBitmapCreateFromData(pixels.bmBits, pixels.bmWidth, pixels.bmHeight, pixels.bmWidthBytes));
     vekCanvasSetBlendMode(mask, VEK_BLEND_SOURCE_IN);
-    vekCanvasDrawBitmap(mask, bitmap.get(), 0, 0);
+    const bool drawn = vekCanvasDrawBitmap(mask, bitmap.get(), 0, 0);
     vekCanvasSetBlendMode(mask, VEK_BLEND_SOURCE_OVER);
+    return drawn;
 }
 
 // The backend knows 32-bit pixels only.
-void DrawInto(VekCanvas mask, const Bitmap& texture) {
+bool DrawInto(VekCanvas mask, const Bitmap& texture) {
     const SurfaceLock pixels(texture);
-    if (!pixels) return;
+    if (!pixels) return false;
     if (pixels->bmBitsPixel == 32) return DrawInto(mask, *pixels);
     // Not a bitmap, of whose end the resource manager would be told in the middle of the draw.
     MemoryPixelStore widened;
     BITMAP description{0, pixels->bmWidth, pixels->bmHeight, 0, 1, 32, nullptr};
     BitmapLockInfo target;
-    if (!widened.Create(&description, 0) || !widened.LockEx(&target, nullptr)) return;
+    if (!widened.Create(&description, 0) || !widened.LockEx(&target, nullptr)) return false;
     KernelTable.At(slots::copySameSize, DepthOf(pixels->bmBitsPixel))(target, *pixels);
-    DrawInto(mask, target);
+    return DrawInto(mask, target);
 }
 
 }  // namespace
@@ -67,7 +68,7 @@ int DrawRoundedTexture(Canvas& canvas, const RECT& dst, const Texture& texture, 
             const float scaleY = height / static_cast<float>(HeightOf(dst));
             vekCanvasDrawRoundRect(mask.Get(), &whole, params.cornerRadii[0] * scaleX, params.cornerRadii[1] * scaleY);
         }
-        DrawInto(mask.Get(), texture);
+        if (!DrawInto(mask.Get(), texture)) return 1;  // of the mask alone nothing is to be seen
     }
     return DrawBitmapRect(canvas, dst, *cut->Surface(), whole, params.filterMode, params.alpha);
 }

@@ -21,6 +21,7 @@ public:
         vekCanvasSetColor(saved.Get(), color);
         vekCanvasSetDrawStyle(saved.Get(), VEK_DRAW_FILL);
     }
+    explicit operator bool() const { return static_cast<bool>(saved); }
 
 private:
     VectorSave saved;
@@ -35,14 +36,15 @@ int DrawVectorRectangle(VekCanvas canvas, const RECT& rect, float grow) {
 
 int FillRectangle(Canvas& canvas, const RECT& rect, DWORD color) {
     const FillStyle style(canvas, color);
+    if (!style) return 0;
     const VectorFrame frame(canvas);
-    return frame ? DrawVectorRectangle(frame.Get(), rect) : 0;
+    return DrawVectorRectangle(frame.Get(), rect);
 }
 
 int FillRoundRect(Canvas& canvas, const RECT& rect, POINT corner, DWORD color) {
     const FillStyle style(canvas, color);
+    if (!style) return 0;
     const VectorFrame frame(canvas);
-    if (!frame) return 0;
     return vekCanvasDrawRoundRect(frame.Get(), &rect, static_cast<float>(corner.x), static_cast<float>(corner.y));
 }
 
@@ -58,8 +60,7 @@ int FillGradient(Canvas* canvas, DWORD from, DWORD to, const RECT* rect, Gradien
     const auto left = static_cast<float>(rect->left), top = static_cast<float>(rect->top);
     const OwnedGradient gradient(vekGradientCreateLinear(left, top, down ? left : static_cast<float>(rect->right),
                                                          down ? static_cast<float>(rect->bottom) : top));
-    vekGradientAddColorStop(gradient.get(), 0, from);
-    vekGradientAddColorStop(gradient.get(), 1, to);
+    if (!vekGradientAddColorStop(gradient.get(), 0, from) || !vekGradientAddColorStop(gradient.get(), 1, to)) return 1;
     vekCanvasSetGradient(style.Get(), gradient.get());
     vekCanvasSetDrawStyle(style.Get(), VEK_DRAW_GRADIENT);
     const VectorFrame frame(*canvas);

@@ -17,20 +17,17 @@ float Y(POINT point) { return static_cast<float>(point.y); }
 
 int DrawPolygon(VekCanvas canvas, unsigned count, const POINT* points) {
     const OwnedPath path(vekPathCreate());
-    vekPathBegin(path.get());
-    vekPathMoveTo(path.get(), X(points[0]), Y(points[0]));
+    bool built = vekPathBegin(path.get()) && vekPathMoveTo(path.get(), X(points[0]), Y(points[0]));
     // The first segment has length zero on purpose.
-    for (unsigned i = 0; i < count; ++i) vekPathLineTo(path.get(), X(points[i]), Y(points[i]));
-    vekPathClose(path.get());
-    return vekCanvasDrawPath(canvas, path.get());
+    for (unsigned i = 0; built && i < count; ++i) built = vekPathLineTo(path.get(), X(points[i]), Y(points[i]));
+    return built && vekPathClose(path.get()) ? vekCanvasDrawPath(canvas, path.get()) : 0;
 }
 
 int DrawBezier(VekCanvas canvas, POINT p0, POINT p1, POINT p2, POINT p3) {
     const OwnedPath path(vekPathCreate());
-    vekPathBegin(path.get());
-    vekPathMoveTo(path.get(), X(p0), Y(p0));
-    vekPathBezierCurveTo(path.get(), X(p1), Y(p1), X(p2), Y(p2), X(p3), Y(p3));
-    return vekCanvasDrawPath(canvas, path.get());
+    const bool built = vekPathBegin(path.get()) && vekPathMoveTo(path.get(), X(p0), Y(p0)) &&
+                       vekPathBezierCurveTo(path.get(), X(p1), Y(p1), X(p2), Y(p2), X(p3), Y(p3));
+    return built ? vekCanvasDrawPath(canvas, path.get()) : 0;
 }
 
 }  // namespace zorvic

@@ -30,9 +30,10 @@ public:
         if (batch.header.nCount == batchSize) Flush();
     }
 
-    // The caller owns it.
+    // The caller owns it. Null when GDI has refused a part.
     HRGN Finish() {
         if (batch.header.nCount > 0) Flush();
+        if (refused) return nullptr;
         return region ? std::exchange(region, nullptr) : CreateRectRgn(0, 0, 0, 0);
     }
 
@@ -44,15 +45,17 @@ private:
     void Flush() {
         const HRGN part = ExtCreateRegion(nullptr, sizeof batch, reinterpret_cast<const RGNDATA*>(&batch));
         Start();
+        if (!part) refused = true;
         if (!region) {
             region = part;
         } else {
-            CombineRgn(region, region, part, RGN_OR);
+            if (CombineRgn(region, region, part, RGN_OR) == ERROR) refused = true;
             DeleteObject(part);
         }
     }
 
     HRGN region = nullptr;
+    bool refused = false;
     struct {
         RGNDATAHEADER header;
         RECT rects[batchSize];
