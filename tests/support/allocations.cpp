@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -37,7 +36,7 @@ struct Ledger {
     std::mutex mutex;                                                 // of all below
     std::unordered_map<const void*, Block> live[Allocations::kinds];  // by address or handle
     bool fences = false;
-    long calls = 0, failFrom = LONG_MAX, failTo = LONG_MAX;
+    long long calls = 0, failFrom = LLONG_MAX, failTo = LLONG_MAX;
     host::PageSlots slots;
 
     std::unordered_map<const void*, Block>& Live(Kind kind) { return live[static_cast<std::size_t>(kind)]; }
@@ -77,8 +76,9 @@ void FreeFencedBlock(Ledger& books, void* block, const Block& was) {
     auto* const end = reinterpret_cast<std::byte*>(pageEnd * host::pageSize);
     const auto untouched = [](std::byte byte) { return byte == filler; };
     if (!std::all_of(end - was.pages * host::pageSize, bytes, untouched)) {
-        std::fputs("written before a block of memory\n", stderr);
-        TerminateProcess(GetCurrentProcess(), 3);
+        std::fprintf(stderr, "written before a block of %zu bytes\n", was.size);
+        std::fflush(stderr);
+        TerminateProcess(GetCurrentProcess(), 7);
     }
     books.slots.GiveBack(end, was.pages);
 }
@@ -238,11 +238,6 @@ void PutHooks() {
         Of<"CombineRgn", makes, Kind::none, decltype(CombineRgn)>(),
         Of<"ExtSelectClipRgn", makes, Kind::none, decltype(ExtSelectClipRgn)>(),
         Of<"IntersectClipRect", makes, Kind::none, decltype(IntersectClipRect)>(),
-        Of<"BitBlt", makes, Kind::none, decltype(BitBlt)>(),
-        Of<"StretchBlt", makes, Kind::none, decltype(StretchBlt)>(),
-        Of<"AlphaBlend", makes, Kind::none, decltype(AlphaBlend)>(),
-        Of<"SetDIBitsToDevice", makes, Kind::none, decltype(SetDIBitsToDevice)>(),
-        Of<"Rectangle", makes, Kind::none, decltype(Rectangle)>(),
         Of<"vekBitmapCreateFromData", makes, Kind::backendBitmap, decltype(vekBitmapCreateFromData)>(),
         Of<"vekBitmapDestroy", ends, Kind::backendBitmap, decltype(vekBitmapDestroy)>(),
         Of<"vekCanvasCreate", makes, Kind::backendCanvas, decltype(vekCanvasCreate)>(),
@@ -304,11 +299,11 @@ std::string Allocations::Outstanding() const {
     return text;
 }
 
-void Allocations::FailAt(int k, bool andLater) {
+void Allocations::FailAt(int k, int howMany) {
     Ledger& books = Books();
     const Lock lock(books.mutex);
-    books.failFrom = k == 0 ? LONG_MAX : books.calls + k;
-    books.failTo = andLater ? LONG_MAX : books.failFrom + 1;
+    books.failFrom = k == 0 ? LLONG_MAX : books.calls + k;
+    books.failTo = k == 0 ? LLONG_MAX : books.failFrom + howMany;
 }
 
 bool Allocations::HasFailed() const {

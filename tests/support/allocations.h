@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <climits>
 #include <cstddef>
 #include <string>
 
@@ -20,8 +21,9 @@ public:
     std::string Outstanding() const;
     void Restart();
 
-    // The k-th allocation from now fails as it does when memory is short, and if andLater all after it. None for 0.
-    void FailAt(int k, bool andLater = false);
+    // The k-th allocation from now fails as it does when memory is short, or several from there on. None for 0.
+    static constexpr int allLater = INT_MAX;
+    void FailAt(int k, int howMany = 1);
     bool HasFailed() const;
 
     enum class Kind {
