@@ -127,8 +127,11 @@ void RunInput(Input& input) {
 
     const Described from = Describe(src, job.primitive), to = Describe(dst, job.primitive);
     if (from.bytes > most || to.bytes > most || IsUndefined(job, dst)) return;
-    // Rows that are all the same take no memory, but their time.
-    const auto takesLong = [](const BITMAP& record) { return record.bmWidthBytes == 0 && record.bmHeight > 1000; };
+    // Rows that are all the same take time, and blurs memory for as many bytes as a row of any length says.
+    const auto takesLong = [&](const BITMAP& record) {
+        return (record.bmWidthBytes == 0 && record.bmHeight > 1000) ||
+               (job.primitive == Primitive::blur && record.bmWidthBytes > most);
+    };
     if (takesLong(src) || takesLong(dst)) return;
     // So do mirrors between images that overlap.
     const bool overlaps = (flags & 16) != 0 && job.primitive != Primitive::mirror;
