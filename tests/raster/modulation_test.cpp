@@ -13,15 +13,17 @@ class Modulation : public AtLevel {};
 TEST_P(Modulation, KnowsEveryDepth) {
     Random random(1);
     for (const int depth : {8, 24})
-        for (const std::uint32_t color : {0xFF20C0F0U, 0x80FF0013U}) {
-            const Image src(random, 37, 3, depth);
-            Image widened(37, 3);
-            widened.Fill([&](int x, int y) { return SourceColor(src.Info(), x, y); });
-            Image got(random, 37, 3), wanted = got;
-            ModulateImage(got.Info(), src.Info(), color);
-            ModulateImage(wanted.Info(), widened.Info(), color);
-            EXPECT_TRUE(SameBytes(got, wanted)) << "depth " << depth << ", color " << std::hex << color;
-        }
+        for (const int width : {5, 37})
+            for (const std::uint32_t color : {0xFF20C0F0U, 0x80FF0013U}) {
+                const Image src(random, width, 3, depth);
+                Image widened(width, 3, 32, {4});
+                widened.Fill([&](int x, int y) { return SourceColor(src.Info(), x, y); });
+                Image got(random, width, 3, 32, {4}), wanted = got;
+                ModulateImage(got.Info(), src.Info(), color);
+                ModulateImage(wanted.Info(), widened.Info(), color);
+                EXPECT_TRUE(SameBytes(got, wanted))
+                    << depth << " bits, " << width << " wide, color " << std::hex << color;
+            }
 }
 
 INSTANTIATE_TEST_SUITE_P(, Modulation, testing::ValuesIn(Levels()), LevelName);
