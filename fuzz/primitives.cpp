@@ -79,6 +79,19 @@ BITMAP ReadRecord(Input& input) {
     return record;
 }
 
+// Mostly edges of the image or between them.
+RECT ReadArea(Input& input, const BITMAP& image) {
+    const auto edge = [&](LONG extent) -> LONG {
+        const int kind = input.Byte() % 8;
+        if (kind < 2) return 0;
+        if (kind < 4) return extent;
+        return kind < 7 ? input.Byte() % (std::clamp<LONG>(extent, 0, 255) + 1) : input.Number();
+    };
+    const LONG left = edge(image.bmWidth), top = edge(image.bmHeight);
+    const LONG right = edge(image.bmWidth), bottom = edge(image.bmHeight);
+    return {left, top, right, bottom};
+}
+
 constexpr auto most = static_cast<std::int64_t>(fencedBytes);
 
 // rows x bytes, or too many.
@@ -118,8 +131,8 @@ void RunInput(Input& input) {
     const Level level = static_cast<Level>(input.Byte() & 3);
     const int flags = input.Byte();
     if ((flags & 3) == 3) job.number = input.Number();
-    if (job.primitive == Primitive::copyArea) job.area = input.Rect();
     BITMAP src = ReadRecord(input), dst = (flags & 4) != 0 ? src : ReadRecord(input);
+    if (job.primitive == Primitive::copyArea) job.area = ReadArea(input, src);
     if ((flags & 8) != 0) {
         dst.bmWidth = src.bmWidth;
         dst.bmHeight = src.bmHeight;
