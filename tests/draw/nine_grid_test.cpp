@@ -60,6 +60,7 @@ TEST(NineGrid, CutsBothSidesAtTheMargins) {
          1,
          1,
          {{{0, 3, 60, 10}, {10, 5, 70, 12}}, {{0, 10, 60, 74}, {10, 12, 70, 36}}, {{0, 74, 60, 83}, {10, 36, 70, 45}}}},
+        {"and at the other ends", {0, 3, 90, 83}, {0, 0, 100, 100}, 1, 1, {{{30, 43, 90, 83}, {10, 5, 70, 45}}}},
         // Ten times 6 columns on the left, and 60 + 20 on the right, of 50.
         {"margins scaled beyond the destination",
          {0, 3, 50, 83},
