@@ -149,6 +149,8 @@ TEST(Abuse, ThreadsDrawWhatOneDraws) {
     const auto draw = [&](std::size_t index) {
         Drawing& drawing = drawings[index];
         std::mt19937 random(index % seeds);
+        Pixels picture(8, 8, 0x80402010);
+        const OwnedBitmap bitmap = picture.Wrap();
         const OwnedPath path = MakePath();
         vekPathAddCircle(path.get(), 11, 11, 9);
         for (int i = 0; i < rounds; ++i) {
@@ -156,6 +158,8 @@ TEST(Abuse, ThreadsDrawWhatOneDraws) {
             vekCanvasSave(drawing);
             vekCanvasTranslate(drawing, static_cast<float>(i % 3), 0);
             vekCanvasDrawPath(drawing, path.get());
+            vekCanvasDrawBitmap(drawing, bitmap.get(), 3, static_cast<float>(i % 5) / 2);
+            vekCanvasDrawLine(drawing, 2, 3, 20, 17);
             vekCanvasRestore(drawing);
             for (const Pixel pixel : drawing.words) sums[index] = sums[index] * 31 + pixel;
         }
