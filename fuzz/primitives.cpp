@@ -53,9 +53,10 @@ BITMAP ReadRecord(Input& input) {
     constexpr WORD depths[] = {32, 32, 32, 24, 24, 0, 8, 1, 16, 64, 65535};
     const int kind = input.Byte();
     BITMAP record{};
-    record.bmWidth = (kind & 3) == 3 ? input.Number() : input.Extent();
-    record.bmHeight = (kind & 12) == 12 ? input.Number() : 1 + input.Below(24);
-    record.bmBitsPixel = (kind & 16) != 0 ? input.Pick(depths) : WORD{32};
+    const int odd = (kind & 3) == 3 ? input.Byte() : 0;
+    record.bmWidth = (odd & 3) == 3 ? input.Number() : input.Extent();
+    record.bmHeight = (odd & 12) == 12 ? input.Number() : 1 + input.Below(24);
+    record.bmBitsPixel = (kind & 12) == 12 ? input.Pick(depths) : WORD{32};
     const std::int64_t packed = std::int64_t{record.bmWidth} * (record.bmBitsPixel == 24 ? 3 : 4);
     const auto step = static_cast<LONG>(std::clamp<std::int64_t>(packed, -0x40000000, 0x40000000));
     switch (kind >> 5) {
@@ -147,8 +148,9 @@ void RunInput(Input& input) {
     };
     if (takesLong(src) || takesLong(dst)) return;
     // So do mirrors between images that overlap.
-    const bool overlaps = (flags & 16) != 0 && job.primitive != Primitive::mirror;
-    const bool fenceBehind = (flags & 32) == 0;
+    const bool overlaps = (flags & 48) == 48 && job.primitive != Primitive::mirror;
+    const bool fenceBehind = (flags & 64) == 0;
+    const int noBits = (flags & 128) != 0 ? input.Below(16) : -1;
     const std::int64_t bytes = overlaps ? std::max(from.bytes, to.bytes) : to.bytes;
     const auto slack = [&](std::int64_t needed) { return overlaps ? input.Below(65536) % (bytes - needed + 1) : 0; };
     const std::int64_t srcAt = slack(from.bytes) + from.first, dstAt = slack(to.bytes) + to.first;
@@ -167,8 +169,8 @@ void RunInput(Input& input) {
 
     const auto runOn = [&](std::span<std::byte> memory, Level onLevel) {
         LimitLevel(onLevel);
-        src.bmBits = (flags & 64) != 0 ? nullptr : (overlaps ? memory : source).data() + srcAt;
-        dst.bmBits = (flags & 192) == 192 ? nullptr : memory.data() + dstAt;
+        src.bmBits = noBits == 0 ? nullptr : (overlaps ? memory : source).data() + srcAt;
+        dst.bmBits = noBits == 1 ? nullptr : memory.data() + dstAt;
         return Run(job, src, dst);
     };
     const bool done = runOn(wanted, Level::generic);
