@@ -1,6 +1,7 @@
 // Canvases: making them, origins, clip, operation word and device context.
 #include "canvas/canvas.h"
 
+#include <algorithm>
 #include <new>
 
 #include "raster/kernel_table.h"
@@ -9,9 +10,13 @@ namespace zorvic {
 
 namespace {
 
+// GDI's regions have coordinates of 28 bits.
+LONG ToRegion(LONG coordinate) { return std::clamp<LONG>(coordinate, -0x7FFFFFF, 0x7FFFFFF); }
+
 // Replaces the clip region by a rectangle in device pixels; false when GDI refuses.
 bool SelectClip(HDC dc, const RECT& device) {
-    const HRGN region = CreateRectRgnIndirect(&device);
+    const HRGN region =
+        CreateRectRgn(ToRegion(device.left), ToRegion(device.top), ToRegion(device.right), ToRegion(device.bottom));
     if (!region) return false;  // without a region GDI would end all clipping
     const bool selected = ExtSelectClipRgn(dc, region, RGN_COPY) != ERROR;
     DeleteObject(region);
