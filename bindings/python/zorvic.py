@@ -1607,5 +1607,5 @@ def BlurBitmapData(width, height, stride, bits, bitsPixel, box):
     stride: bytes from one row to the next; below the length of a row nothing happens
     bitsPixel: 24 or 32; other depths are left alone
     box: 1 changes nothing
-    Returns: 1, also when nothing happened or memory was short; 0 for a width, height or box below 1 and for None bits"""
+    Returns: 1, also when nothing happened, as for None bits, or memory was short; 0 for a width, height or box below 1"""
     return (width, height, stride, bits, bitsPixel, box)

@@ -965,7 +965,7 @@ ZORVIC_API int ZORVIC_CALL ARGBAndBitmap_IPP(const BITMAP* src, BITMAP* dst, DWO
  *  \param stride     bytes from one row to the next; below the length of a row nothing happens
  *  \param bitsPixel  24 or 32; other depths are left alone
  *  \param box        1 changes nothing
- *  \return 1, also when nothing happened or memory was short; 0 for a width, height or box below 1 and for NULL bits */
+ *  \return 1, also when nothing happened, as for NULL bits, or memory was short; 0 for a width, height or box below 1 */
 ZORVIC_API int ZORVIC_CALL BlurBitmapData(int width, int height, int stride, void* bits, WORD bitsPixel, int box);
 
 #endif

@@ -46,6 +46,8 @@ bool CanvasLock::DcShows(const BITMAP& image, const RECT& device) const {
 bool CanvasLock::CopyFromDc() {
     // The limit of every surface; the differences below fit 32 bits with it, too.
     if (WidthOf(area) > maxExtent || HeightOf(area) > maxExtent) return false;
+    // A gigabyte: what lies outside the device context costs as much as what lies inside.
+    if (WidthOf(area) * HeightOf(area) > 1 << 28) return false;
     BITMAP description{};
     description.bmWidth = area.right - area.left;
     description.bmHeight = area.bottom - area.top;

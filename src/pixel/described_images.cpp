@@ -124,7 +124,7 @@ bool BlurImage(const BITMAP& image, int box) {
     const SIZE size = SizeOf(image);
     std::size_t bufferBytes;
     if (BoxFilterBufferSize(size, box, std::max(channels, 1), &bufferBytes) != Status::success) return false;
-    if (image.bmBitsPixel != 24 && image.bmBitsPixel != 32) return true;
+    if (!image.bmBits || (image.bmBitsPixel != 24 && image.bmBitsPixel != 32)) return true;
 
     // Rows that overlap or run upwards have no second image of height x step bytes.
     const std::int64_t imageBytes = std::int64_t{size.cy} * image.bmWidthBytes;
