@@ -74,9 +74,11 @@ Outcome RunSelf(const std::string& arguments) {
 
 std::string RangeText(int first, int end) { return " " + std::to_string(first) + " " + std::to_string(end); }
 
-// The first number of a range with which the program fails, or end.
-int FirstFailing(const std::string& mode, int first, int end) {
-    if (!RunSelf(mode + RangeText(first, end)).failed) return end;
+// The first number of a range with which the program fails, or end; output: that of the whole range.
+int FirstFailing(const std::string& mode, int first, int end, std::string& output) {
+    const Outcome whole = RunSelf(mode + RangeText(first, end));
+    output = whole.output;
+    if (!whole.failed) return end;
     while (end - first > 1) {
         const int middle = std::midpoint(first, end);
         (RunSelf(mode + RangeText(first, middle)).failed ? end : first) = middle;
@@ -112,18 +114,20 @@ std::vector<int> FewestCalls(int seed, const std::string& mode) {
 void ReportCrashes() { AddVectoredExceptionHandler(1, EndProcess); }
 
 std::string FaultOfSeeds(int first, int end, const std::string& mode) {
-    const int seed = FirstFailing(mode + " --seeds", first, end);
+    std::string output;
+    const int seed = FirstFailing(mode + " --seeds", first, end, output);
     if (seed == end) return {};
     const std::string replay = mode + ReplayText(seed, FewestCalls(seed, mode));
     const Outcome last = RunSelf(replay);
-    if (!last.failed) return "Seed " + std::to_string(seed) + " fails only after those before it.";
+    if (!last.failed) return "Not to be repeated alone, seed " + std::to_string(seed) + ": " + output;
     return "call_tests " + replay + "\n" + last.output;
 }
 
 std::string FaultOfExports(int first, int end) {
-    const int place = FirstFailing("--edges", first, end);
+    std::string output;
+    const int place = FirstFailing("--edges", first, end, output);
     if (place == end) return {};
-    const std::string output = RunSelf("--edge " + std::to_string(place)).output;
+    output = RunSelf("--edge " + std::to_string(place)).output;
     // The last lines: the call, and what happened.
     std::size_t start = output.size();
     for (int lines = 0; lines < 3 && start != std::string::npos; ++lines) start = output.rfind('\n', start - 1);
