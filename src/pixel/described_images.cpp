@@ -120,7 +120,6 @@ bool OrImage(const BITMAP& src, const BITMAP& dst, DWORD value) { return RunPack
 bool AndImage(const BITMAP& src, const BITMAP& dst, DWORD value) { return RunPacked(AndPixels, src, dst, value); }
 
 bool BlurImage(const BITMAP& image, int box) {
-    if (!image.bmBits) return false;
     const int channels = image.bmBitsPixel / 8;
     const SIZE size = SizeOf(image);
     std::size_t bufferBytes;
