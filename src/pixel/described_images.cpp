@@ -35,6 +35,8 @@ struct Touched {
 bool LiesInside(const Touched& touched, const BITMAP& image, std::int64_t rowPixels) {
     const std::int64_t step = image.bmWidthBytes, pixelRow = PixelRowBytes(image);
     if (step != 0 && std::abs(step) < pixelRow) return false;
+    // Without a step no memory ends a job that goes on beyond the image's rows.
+    if (step == 0 && (touched.first < 0 || touched.first + touched.count > image.bmHeight)) return false;
     const std::int64_t lastRow = step == 0 ? pixelRow : std::min(std::abs(step), rowPixels);
     const std::int64_t one = touched.first * step, other = (touched.first + touched.count - 1) * step;
     const std::int64_t toLastRow = (image.bmHeight - std::int64_t{1}) * step;
