@@ -147,7 +147,7 @@ void RunInput(Input& input) {
                (job.primitive == Primitive::blur && record.bmWidthBytes > most);
     };
     if (takesLong(src) || takesLong(dst)) return;
-    // So do mirrors between images that overlap.
+    // Mirrors between images that overlap give undefined pixels, too.
     const bool overlaps = (flags & 48) == 48 && job.primitive != Primitive::mirror;
     const bool fenceBehind = (flags & 64) == 0;
     const int noBits = (flags & 128) != 0 ? input.Below(16) : -1;
