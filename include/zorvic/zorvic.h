@@ -912,9 +912,9 @@ ZORVIC_API HRGN ZORVIC_CALL CreateTextureRgn(HGTEXTURE texture, const RECT* area
 /* -------------------------------------------------------------------------------------- pixels in the host's memory
  * These work on memory that the host describes: bmWidth, bmHeight, bmWidthBytes (negative where rows run upwards),
  * bmBitsPixel and bmBits. What is called four bytes per pixel has them whatever bmBitsPixel says. A record describes as
- * many rows as it has, each as long as its row step (the depth, where the step is 0), and the last of them as long as its
- * pixels; a call that would touch a byte outside does nothing. Where nothing else is said, the result is 1, or 0 for a NULL record, NULL bits, a width or
- * height below 1, and for what would reach outside. */
+ * many rows as it has, each as long as its row step (the depth, where the step is 0), and the last of them as long as
+ * its pixels; a call that would touch a byte outside does nothing. Where nothing else is said, the result is 1, or 0 for
+ * a NULL record, NULL bits, a width or height below 1, and for what would reach outside. */
 
 /** Copies pixels. Nothing is stretched, and destinations of other depths get the source's bytes.
  *  \param src   24 or 32 bits per pixel
