@@ -1,6 +1,7 @@
 // Drawing bitmaps and textures on canvases: operations, opacity, sampling positions, parts and slices.
 #include <functional>
 
+#include "support/host.h"
 #include "support/slow_pixels.h"
 
 using namespace host;

@@ -1,6 +1,7 @@
 // Bitmaps drawn in a colour: both formulas by a slow model, every depth, lenient results.
 #include <climits>
 
+#include "support/host.h"
 #include "support/slow_pixels.h"
 
 using namespace host;

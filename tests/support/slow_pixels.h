@@ -1,7 +1,7 @@
-// Pixel formulas the slow way: one pixel, one byte at a time, as they are documented.
+// Pixel formulas the slow way: one pixel, one byte at a time, as they are documented. For the DLL and for the engine.
 #pragma once
 
-#include "support/host.h"
+#include "zorvic/types.h"
 
 namespace host {
 
