@@ -1,37 +1,14 @@
-// What the headers of a loaded program or DLL say: the names it exports, with their addresses, and what it imports.
+// What the headers of a loaded program or DLL say of its imports.
 #pragma once
 
 #include <windows.h>
 
 #include <map>
-#include <set>
 #include <string>
 
 class PeImage {
 public:
     explicit PeImage(HMODULE module) : base(reinterpret_cast<const BYTE*>(module)) {}
-
-    std::map<std::string, const void*> Exports() const {
-        std::map<std::string, const void*> exports;
-        const auto* table = Directory<IMAGE_EXPORT_DIRECTORY>(IMAGE_DIRECTORY_ENTRY_EXPORT);
-        const auto* names = At<DWORD>(table->AddressOfNames);
-        const auto* ordinals = At<WORD>(table->AddressOfNameOrdinals);
-        const auto* functions = At<DWORD>(table->AddressOfFunctions);
-        for (DWORD i = 0; i < table->NumberOfNames; ++i) exports[At<char>(names[i])] = At<void>(functions[ordinals[i]]);
-        return exports;
-    }
-
-    // In lower case, as Windows compares them.
-    std::set<std::string> Imports() const {
-        std::set<std::string> imports;
-        for (const auto* entry = Directory<IMAGE_IMPORT_DESCRIPTOR>(IMAGE_DIRECTORY_ENTRY_IMPORT); entry->Name;
-             ++entry) {
-            std::string name = At<char>(entry->Name);
-            CharLowerBuffA(name.data(), static_cast<DWORD>(name.size()));
-            imports.insert(name);
-        }
-        return imports;
-    }
 
     // Where this image keeps the addresses of what it imports from a DLL whose name starts so, by the function's name. A
     // name that is linked in two ways has two places.
