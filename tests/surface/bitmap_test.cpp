@@ -1,5 +1,4 @@
-// Bitmaps as hosts make and lock them: limits, strides, palettes, areas and properties.
-#include <array>
+// Bitmaps as hosts make and lock them: limits, strides, palettes and areas.
 #include <climits>
 
 #include "support/host.h"
@@ -27,38 +26,20 @@ TEST(Bitmap, SizesAndDepthsThatCanBeMade) {
     expect(32767, 32767, 32, sizeof(void*) > 4);
 }
 
-TEST(Bitmap, RowsArePaddedTo32Bits) {
-    for (const int bitsPixel : {8, 16, 24, 32})
-        for (const int width : {1, 2, 3, 4, 5, 7, 8, 31, 32, 33, 1001}) {
-            SCOPED_TRACE(testing::Message() << width << " pixels of " << bitsPixel << " bits");
-            int wanted = width * (bitsPixel / 8);
-            while (wanted % 4 != 0) ++wanted;
-
-            const OwnedBitmap bitmap = MakeBitmap(width, 3, bitsPixel);
-            const auto picture = [=](int x, int y) { return Pattern{}(x, y) & (0xFFFFFFFFU >> (32 - bitsPixel)); };
-            Fill(bitmap.get(), picture);
-            EXPECT_EQ(Pixels(bitmap.get())->bmWidthBytes, wanted);
-            EXPECT_TRUE(Shows(bitmap.get(), picture));
-        }
-}
-
 TEST(Bitmap, PaletteIsItsOwnOrTheGrayRamp) {
-    struct Case {
+    const struct {
         int bitsPixel, asked, count;
-        bool ramp;
-    };
-    const Case cases[] = {{8, 0, 256, true},    {8, -1, 256, true},   {8, 1, 1, false},
-                          {8, 256, 256, false}, {8, 300, 256, false}, {8, 70000, 256, false},
-                          {16, 5, 0, false},    {24, 16, 0, false},   {32, 16, 0, false}};
-    for (const Case& c : cases) {
+    } cases[] = {{8, 0, 256},     {8, -1, 256}, {8, 1, 1},   {8, 256, 256}, {8, 300, 256},
+                 {8, 70000, 256}, {16, 5, 0},   {24, 16, 0}, {32, 16, 0}};
+    for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message() << c.asked << " colours asked at " << c.bitsPixel << " bits");
         const OwnedBitmap bitmap = MakeBitmap(5, 4, c.bitsPixel, c.asked);
-        const OwnedBitmap twin = MakeBitmap(5, 4, c.bitsPixel, c.asked);
+        const OwnedTexture twin(CreateTextureEx(5, 4, c.bitsPixel, c.asked));
         const Pixels pixels(bitmap.get());
         ASSERT_EQ(pixels->colorCount, c.count);
         EXPECT_EQ(pixels->palette != nullptr, c.count > 0);
         if (c.count == 0) continue;
-        if (c.ramp) {
+        if (c.asked <= 0) {  // the ramp
             for (DWORD i = 0; i < 256; ++i) ASSERT_EQ(pixels->palette[i], 0xFF000000 + i * 0x010101) << "entry " << i;
             continue;
         }
@@ -73,7 +54,7 @@ TEST(Bitmap, PaletteIsItsOwnOrTheGrayRamp) {
 }
 
 TEST(Bitmap, LocksAreasThatLieInside) {
-    constexpr LONG width = 10, height = 7;
+    constexpr LONG width = 9, height = 7;
     constexpr LONG edges[] = {LONG_MIN, -1, 0, 3, height, width, width + 1, LONG_MAX};
     std::vector<OwnedBitmap> bitmaps;
     for (const int bitsPixel : {8, 16, 24, 32}) bitmaps.push_back(MakeBitmap(width, height, bitsPixel, 5));
@@ -81,6 +62,7 @@ TEST(Bitmap, LocksAreasThatLieInside) {
     for (const OwnedBitmap& bitmap : bitmaps) {
         BITMAP whole{};
         ASSERT_EQ(LockBitmapBits(bitmap.get(), &whole, nullptr), 1);
+        const LONG pixelBytes = whole.bmBitsPixel / 8, rowBytes[] = {0, 12, 20, 28, 36};  // ending at a word
         for (int i = 0; i < 8 * 8 * 8 * 8; ++i) {
             const RECT area{edges[i & 7], edges[i >> 3 & 7], edges[i >> 6 & 7], edges[i >> 9]};
             SCOPED_TRACE(std::to_string(whole.bmBitsPixel) + " bits " + ToText(area));
@@ -92,30 +74,11 @@ TEST(Bitmap, LocksAreasThatLieInside) {
             ASSERT_EQ(LockBitmapBitsEx(bitmap.get(), &partEx, &area), inside ? 1 : 0);
             ASSERT_EQ(memcmp(&partEx, &part, sizeof part), 0);
             if (!inside) continue;
-            auto* const first =
-                static_cast<BYTE*>(whole.bmBits) + area.top * whole.bmWidthBytes + area.left * (whole.bmBitsPixel / 8);
-            const BITMAP wanted{
-                0, area.right - area.left, area.bottom - area.top, whole.bmWidthBytes, 1, whole.bmBitsPixel, first};
+            const LONG step = rowBytes[pixelBytes];
+            auto* const first = static_cast<BYTE*>(whole.bmBits) + area.top * step + area.left * pixelBytes;
+            const BITMAP wanted{0, area.right - area.left, area.bottom - area.top, step, 1, whole.bmBitsPixel, first};
             ASSERT_EQ(memcmp(&part, &wanted, sizeof part), 0);
         }
-    }
-}
-
-TEST(Bitmap, TellsItsProperties) {
-    for (const int bitsPixel : {1, 4, 7, 8, 24, 32}) {
-        const OwnedBitmap bitmap = MakeBitmap(300, 200, bitsPixel, 300);
-        ReleaseBitmap(bitmap.get());  // leaves the bitmap alone
-        BITMAP out{};
-        EXPECT_EQ(LockBitmapBits(bitmap.get(), &out, nullptr), bitsPixel < 8 ? 0 : 1);
-        SIZE size{};
-        DWORD before = 9, filter = 9;
-        BYTE depth = 0;
-        EXPECT_EQ(GetBitmapSize(bitmap.get(), &size) + GetBitmapBitsPixel(bitmap.get(), &depth), 2);
-        EXPECT_TRUE(size.cx == 300 && size.cy == 200 && depth == bitsPixel);
-        EXPECT_EQ(GetBitmapFilter(bitmap.get(), &before) + SetBitmapFilter(bitmap.get(), 0x02ABCDEF) +
-                      GetBitmapFilter(bitmap.get(), &filter),
-                  3);
-        EXPECT_TRUE(before == 0 && filter == 0x02ABCDEF);
     }
 }
 

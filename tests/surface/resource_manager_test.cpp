@@ -5,7 +5,7 @@ namespace {
 
 using namespace host;
 
-TEST(ResourceManager, HearsOfChangesAndReleases) {
+TEST(ResourceManager, HearsOfChangesAndReleasesWhileItIsRegistered) {
     OwnedBitmap bitmap = MakeBitmap(4, 4);
     const HGBITMAP handle = bitmap.get();
     Recorder manager;
@@ -22,13 +22,26 @@ TEST(ResourceManager, HearsOfChangesAndReleases) {
     bitmap.reset();
     EXPECT_EQ(manager.log, "change 7;release;");
     EXPECT_EQ(manager.last, handle);
+
+    bitmap = MakeBitmap(4, 4);
+    RegisterD2DResoureMgr(nullptr);
+    UnlockBitmapBits(bitmap.get(), 1, 1);
+    bitmap.reset();
+    EXPECT_EQ(manager.log, "change 7;release;");
 }
 
-TEST(ResourceManager, PixelsThatMoveIntoATextureAreNotReleased) {
+TEST(ResourceManager, HearsOfEachTextureAndCanvas) {
     OwnedBitmap bitmap = MakeBitmap(4, 4);
+    OwnedCanvas canvas(CreateCanvas(4, 4, nullptr));
+    const HGBITMAP surface = GetBitmap(canvas.get());
     Recorder manager;
-    OwnedTexture texture(BitmapToTexture(bitmap.release()));
-    EXPECT_EQ(manager.log, "");
+    OwnedTexture texture(BitmapToTexture(bitmap.release())), view(GetTexture(canvas.get()));
+    EXPECT_EQ(manager.log, "") << "pixels that move are not released";
+    view.reset();
+    EXPECT_EQ(manager.log, "release;");
+    canvas.reset();
+    EXPECT_EQ(manager.log, "release;release;");
+    EXPECT_EQ(manager.last, surface);
 
     const RECT set{1, 2, 3, 4};
     SetTextureSlice(texture.get(), 1, &set);
@@ -39,30 +52,8 @@ TEST(ResourceManager, PixelsThatMoveIntoATextureAreNotReleased) {
         EXPECT_EQ(slice, set) << "the texture is still whole";
     };
     texture.reset();
-    EXPECT_EQ(manager.log, "release;");
+    EXPECT_EQ(manager.log, "release;release;release;");
     EXPECT_EQ(manager.last, AsBitmap(handle));
-}
-
-TEST(ResourceManager, HearsOfEachViewOfACanvas) {
-    Recorder manager;
-    OwnedCanvas canvas(CreateCanvas(4, 4, nullptr));
-    OwnedTexture view(GetTexture(canvas.get()));
-    const HGBITMAP surface = GetBitmap(canvas.get());
-    EXPECT_EQ(manager.log, "");
-    view.reset();
-    EXPECT_EQ(manager.log, "release;");
-    canvas.reset();
-    EXPECT_EQ(manager.log, "release;release;");
-    EXPECT_EQ(manager.last, surface);
-}
-
-TEST(ResourceManager, HearsNothingOnceItIsUnregistered) {
-    OwnedBitmap bitmap = MakeBitmap(4, 4);
-    Recorder manager;
-    RegisterD2DResoureMgr(nullptr);
-    UnlockBitmapBits(bitmap.get(), 1, 1);
-    bitmap.reset();
-    EXPECT_EQ(manager.log, "");
 }
 
 }  // namespace
