@@ -1,29 +1,7 @@
-// Drawing on a host's device context: where rows lie, what scaling does, and two locks at once.
+// Drawing on a host's device context: what scaling does, and two locks at once.
 #include "canvas/targets.h"
 
 using namespace host;
-
-namespace {
-
-constexpr RECT everything{-1000, -1000, 1000, 1000};
-
-}  // namespace
-
-// Every row order has its own mistake: each area of rows, the middle one of 9 among them.
-TEST(CanvasGdi, DrawsOnTheRightRows) {
-    const OwnedBitmap source = MakeBitmap(13, 9, Pattern{2});
-    for (const CanvasKind& kind : CanvasKinds())
-        for (int top = 0; top < 9; ++top)
-            for (int bottom = top + 1; bottom <= 9; ++bottom) {
-                SCOPED_TRACE(testing::Message() << kind.name << ", rows " << top << " to " << bottom);
-                const Target target(kind, 13, 9);
-                target.FillPlain(0);  // every row alike
-                const RECT rows{0, top, 13, bottom};
-                SetCanvasClipRect(target.Get(), &rows);
-                DrawBitmap(target.Get(), nullptr, source.get(), ZORVIC_FILTER_NEAREST);
-                ASSERT_TRUE(target.Keeps([&](int x, int y) { return Inside(rows, x, y) ? Pattern{2}(x, y) : 0; }));
-            }
-}
 
 // GDI scales the position; our own arithmetic would have painted (4, 4) to (8, 8) and missed.
 TEST(CanvasGdi, PaintsWhereAScaledDeviceContextSaysSo) {
@@ -38,7 +16,6 @@ TEST(CanvasGdi, PaintsWhereAScaledDeviceContextSaysSo) {
         const RECT rect{4, 4, 8, 8}, painted{2, 2, 6, 6};  // pixels keep their size
         EXPECT_EQ(FillPreMulColorRectEx(target.Get(), 0xFF80A0C0, &rect, ZORVIC_OP_COPY), 1);
         EXPECT_TRUE(target.Keeps([&](int x, int y) { return Inside(painted, x, y) ? 0xFF80A0C0 : before(x, y); }));
-        EXPECT_EQ(FillPreMulColorRectEx(target.Get(), 0xFF80A0C0, &everything, ZORVIC_OP_COPY), 1);
     }
 }
 

@@ -1,7 +1,5 @@
 // Origins and clip against a model: whatever is set in whatever order, before or after the device context is made, what
-// is reported, mapped and painted follows from device pixels.
-#include <climits>
-
+// is reported, mapped and painted by GDI follows from device pixels.
 #include "canvas/targets.h"
 #include "support/random.h"
 
@@ -10,8 +8,6 @@ using namespace host;
 namespace {
 
 constexpr int width = 40, height = 30;
-constexpr RECT everything{-1000, -1000, 1000, 1000};
-constexpr DWORD ink = 0xFF102030;
 
 RECT Moved(const RECT& rect, LONG dx, LONG dy) {
     return {rect.left + dx, rect.top + dy, rect.right + dx, rect.bottom + dy};
@@ -92,53 +88,13 @@ TEST(CanvasState, FollowsTheModel) {
                 Change(target.Get(), model, random);
                 ExpectState(target.Get(), model);
             }
-            const auto inClip = [&](DWORD pixel) {
-                return [=](int x, int y) { return Inside(model.clip, x, y) ? pixel : 0; };
-            };
-            target.FillPlain(0);
-            FillPreMulColorRectEx(target.Get(), ink, &everything, ZORVIC_OP_COPY);
-            EXPECT_TRUE(target.Keeps(inClip(ink)));
-            // GDI's own drawing as well.
             const HDC dc = GetCanvasHandle(target.Get());
             target.FillPlain(0);
             PatBlt(dc, -1000, -1000, 2000, 2000, WHITENESS);
-            EXPECT_TRUE(target.Keeps(inClip(0xFFFFFFFF)));
+            EXPECT_TRUE(target.Keeps([&](int x, int y) { return Inside(model.clip, x, y) ? 0xFFFFFFFF : 0; }));
             POINT mapped{0, 0};
             LPtoDP(dc, &mapped, 1);
             EXPECT_EQ(mapped, (POINT{model.viewport.x - model.window.x, model.viewport.y - model.window.y}));
             ASSERT_FALSE(HasFailure());
         }
-}
-
-TEST(CanvasState, BelongsToTheDeviceContextOnceThereIsOne) {
-    const GdiBitmap dib = GdiBitmap::Dib(width, height);
-    const OwnedCanvas canvas(CreateCanvasFromDC(dib.Dc()));
-    SetViewportOrgEx(dib.Dc(), 11, 12, nullptr);
-    POINT previous{};
-    SetViewportOrg(canvas.get(), 0, 0, &previous);
-    EXPECT_EQ(previous, (POINT{11, 12}));
-    const RECT clip{1, 1, 20, 20};
-    SetCanvasClipRect(canvas.get(), &clip);
-    SelectClipRgn(dib.Dc(), nullptr);
-    FillPreMulColorRectEx(canvas.get(), ink, &everything, ZORVIC_OP_COPY);
-    EXPECT_TRUE(Shows(dib.Shown().get(), Plain{ink}));
-}
-
-// Coordinates that leave 32 bits wrap around: no trap, and exact on the way back.
-TEST(CanvasState, WrapsAround) {
-    constexpr LONG extremes[] = {INT_MIN, INT_MIN + 3, -1, 0, 7, INT_MAX - 3, INT_MAX};
-    const OwnedCanvas canvas(CreateCanvas(12, 9, nullptr));
-    for (const LONG viewport : extremes)
-        for (const LONG window : extremes)
-            for (const LONG edge : extremes) {
-                SetViewportOrg(canvas.get(), viewport, window, nullptr);
-                SetWindowOrg(canvas.get(), window, viewport, nullptr);
-                const RECT rect{edge, viewport, window, edge};
-                RECT mapped = rect;
-                WindowToDevice(canvas.get(), &mapped);
-                DeviceToWindow(canvas.get(), &mapped);
-                EXPECT_EQ(mapped, rect);
-                SetCanvasClipRect(canvas.get(), &rect);
-                FillPreMulColorRectEx(canvas.get(), ink, &rect, ZORVIC_OP_COPY);
-            }
 }
