@@ -90,52 +90,32 @@ RandomDraw DrawSources::Next(zorvic::Random& random, bool onSurface) const {
     SetBitmapFilter(bitmap, operation);
     SetTextureFilter(t, operation);
     SetCanvasFilter(o, ZORVIC_OP_SOURCE_OVER);  // of others, stretches change when they are clipped
-    switch (random.Below(onSurface ? 16 : 10)) {
-        case 0:
-            return {"fill", [=](HGCANVAS c) { return FillSolidRectEx(c, color, &dst, operation); }};
-        case 1:
-            return {"bitmap", [=](HGCANVAS c) { return DrawBitmapEx(c, &dst, bitmap, filter, alpha); }};
-        case 2:
-            return {"part", [=](HGCANVAS c) { return DrawBitmapEx2(c, &dst, bitmap, &part, filter, alpha); }};
-        case 3:
-            return {"modulation", [=](HGCANVAS c) {
-                        return DrawModulation(c, dst.left, dst.top, bitmap, scale > 1 ? &part : nullptr, color);
-                    }};
-        case 4:
-            return {"nine-grid", [=](HGCANVAS c) {
-                        return DrawTexture9Grid(c, &dst, t, &part, &margins, filter, scale > 1, alpha, 0, scale, 1);
-                    }};
-        case 5:
-            return {"tiles", [=](HGCANVAS c) {
-                        return 1 + DrawTextureTile(c, &dst, t, &part, filter, alpha, ZORVIC_TILE_SCALED, scale);
-                    }};
-        case 6:
-            return {"top tiles",
-                    [=](HGCANVAS c) { return 1 + DrawTextureTopTile(c, &dst, t, &part, &margins, filter, alpha); }};
-        case 7:
-            return {"uniform",
-                    [=](HGCANVAS c) { return DrawTextureUniform(c, &dst, t, &margins, filter, alpha, scale > 1); }};
-        case 14:
-            return {"center", [=](HGCANVAS c) { return DrawTextureCenter(c, &dst, t, &part, filter, alpha); }};
-        case 8:
-            return {"mix color", [=](HGCANVAS c) { return MixCanvasWithColor(c, &dst, color, alpha); }, dst};
-        case 9:
-            return {"mix", [=](HGCANVAS c) { return MixCanvas(c, &dst, o, &part, alpha); }, dst};
-        case 10:
-            return {"blend", [=](HGCANVAS c) { return BlendCanvas(c, &dst, o, &part, 255); }};
-        case 11:
-            return {"frame", [=](HGCANVAS c) { return GeoRectangle(c, &dst, nullptr, nullptr); }};
-        case 12:
-            return {"focus", [=](HGCANVAS c) { return GeoRectFocusEx(c, &dst, 0x80FFFFFF & color); }};
-        case 13:
-            return {"rounded", [=](HGCANVAS c) {
-                        return FillRoundRectEx(c, &dst, reinterpret_cast<const POINT*>(&margins), color);
-                    }};
-        default:
-            return {"circle", [=](HGCANVAS c) {
-                        return DrawCircle(c, static_cast<float>(dst.left), static_cast<float>(dst.top), 9);
-                    }};
-    }
+    const POINT corner{margins.left, margins.top};
+    const RandomDraw draws[] = {
+        // those that need a surface come last
+        {"fill", [=](HGCANVAS c) { return FillSolidRectEx(c, color, &dst, operation); }},
+        {"bitmap", [=](HGCANVAS c) { return DrawBitmapEx(c, &dst, bitmap, filter, alpha); }},
+        {"part", [=](HGCANVAS c) { return DrawBitmapEx2(c, &dst, bitmap, &part, filter, alpha); }},
+        {"modulation",
+         [=](HGCANVAS c) { return DrawModulation(c, dst.left, dst.top, bitmap, scale > 1 ? &part : nullptr, color); }},
+        {"nine-grid",
+         [=](HGCANVAS c) {
+             return DrawTexture9Grid(c, &dst, t, &part, &margins, filter, scale > 1, alpha, 0, scale, 1);
+         }},
+        {"tiles",
+         [=](HGCANVAS c) { return 1 + DrawTextureTile(c, &dst, t, &part, filter, alpha, ZORVIC_TILE_SCALED, scale); }},
+        {"top tiles", [=](HGCANVAS c) { return 1 + DrawTextureTopTile(c, &dst, t, &part, &margins, filter, alpha); }},
+        {"uniform", [=](HGCANVAS c) { return DrawTextureUniform(c, &dst, t, &margins, filter, alpha, scale > 1); }},
+        {"mix color", [=](HGCANVAS c) { return MixCanvasWithColor(c, &dst, color, alpha); }, dst},
+        {"mix", [=](HGCANVAS c) { return MixCanvas(c, &dst, o, &part, alpha); }, dst},
+        {"center", [=](HGCANVAS c) { return DrawTextureCenter(c, &dst, t, &part, filter, alpha); }},
+        {"blend", [=](HGCANVAS c) { return BlendCanvas(c, &dst, o, &part, 255); }},
+        {"frame", [=](HGCANVAS c) { return GeoRectangle(c, &dst, nullptr, nullptr); }},
+        {"focus", [=](HGCANVAS c) { return GeoRectFocusEx(c, &dst, 0x80FFFFFF & color); }},
+        {"rounded", [=](HGCANVAS c) { return FillRoundRectEx(c, &dst, &corner, color); }},
+        {"circle",
+         [=](HGCANVAS c) { return DrawCircle(c, static_cast<float>(dst.left), static_cast<float>(dst.top), 9); }}};
+    return draws[random.Below(onSurface ? 16 : 10)];
 }
 
 constexpr int width = 40, height = 31, margin = 90;  // margin: around the canvas that shows all of a draw
