@@ -10,13 +10,9 @@ TEST(DrawModulation, MatchesTheModelFromEveryDepth) {
     const RECT whole{0, 0, 29, 23}, part{2, 3, 25, 19};
     for (const int depth : {8, 24, 32}) {
         const OwnedBitmap bitmap = MakeBitmap(29, 23, depth, 256);
-        Fill(bitmap.get(), Pattern{1});
-        for (int i = 0; depth == 8 && i < 256; ++i) Pixels(bitmap.get())->palette[i] = Pattern{3}(i, 0);
-        const auto source = [&](int x, int y) {
-            const DWORD word = Pattern{1}(x, y);
-            if (depth == 8) return Pattern{3}(static_cast<int>(word & 0xFF), 0);
-            return depth == 24 ? 0xFF000000 | word : word;
-        };
+        Pixels source(bitmap.get());
+        source.Fill(Pattern{1});
+        for (int i = 0; i < source->colorCount; ++i) source->palette[i] = Pattern{3}(i, 0);
         for (const DWORD color : {0xFF20C0F0UL, 0xFFFFFFFFUL, 0xFE20C0F0UL, 0x80FF0013UL, 0x00FFFFFFUL})
             for (const RECT& area : {whole, part}) {
                 const OwnedCanvas canvas = MakeCanvas(40, 30, Pattern{2});
@@ -26,7 +22,7 @@ TEST(DrawModulation, MatchesTheModelFromEveryDepth) {
                                   [&](int x, int y) {
                                       const DWORD before = Pattern{2}(x, y);
                                       if (!Inside(dst, x, y)) return before;
-                                      const DWORD s = source(x - 5 + area.left, y - 4 + area.top);
+                                      const DWORD s = source.Color(x - 5 + area.left, y - 4 + area.top);
                                       return color >> 24 == 255 ? SlowTint(s, before, color)
                                                                 : SlowModulate(s, before, color);
                                   }))

@@ -15,15 +15,6 @@ constexpr Look looks[] = {{ZORVIC_OP_COPY, ZORVIC_FILTER_NEAREST, 255},
 
 }  // namespace
 
-std::vector<Piece> Grid(const Edges& xs, const Edges& ys, const Edges& srcXs, const Edges& srcYs) {
-    std::vector<Piece> pieces;
-    for (std::size_t row = 0; row < 3; ++row)
-        for (std::size_t column = 0; column < 3; ++column)
-            pieces.push_back({{xs[column], ys[row], xs[column + 1], ys[row + 1]},
-                              {srcXs[column], srcYs[row], srcXs[column + 1], srcYs[row + 1]}});
-    return pieces;
-}
-
 OwnedTexture MakeSkin() {
     OwnedTexture texture(CreateTexture(100, 60));
     Fill(texture.get(), PremultipliedPattern{7});
@@ -32,14 +23,14 @@ OwnedTexture MakeSkin() {
 
 OwnedCanvas MakeTarget() { return MakeCanvas(120, 100, PremultipliedPattern{3}); }
 
-void ExpectPieces(const std::string& name, HGTEXTURE texture, int result, const std::vector<Piece>& pieces,
-                  const Draw& draw) {
+void ExpectPieces(const std::string& name, int result, const std::vector<Piece>& pieces, const Draw& draw) {
+    const OwnedTexture skin = MakeSkin();
     for (const Look& look : looks) {
-        SetTextureFilter(texture, look.operation);
+        SetTextureFilter(skin.get(), look.operation);
         const OwnedCanvas canvas = MakeTarget(), wanted = MakeTarget();
         for (const Piece& piece : pieces)
-            DrawBitmapEx2(wanted.get(), &piece.dst, AsBitmap(texture), &piece.src, look.filter, look.alpha);
-        EXPECT_EQ(draw(canvas.get(), look.filter, look.alpha), result) << name;
+            DrawBitmapEx2(wanted.get(), &piece.dst, AsBitmap(skin.get()), &piece.src, look.filter, look.alpha);
+        EXPECT_EQ(draw(canvas.get(), skin.get(), look.filter, look.alpha), result) << name;
         EXPECT_TRUE(Shows(canvas.get(), Snapshot(wanted.get()))) << name << " filter " << look.filter;
     }
 }

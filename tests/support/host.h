@@ -61,6 +61,12 @@ public:
         for (int i = BytesPerPixel(); i-- > 0;) value = value << 8 | At(x, y)[i];
         return value;
     }
+    // The pixel widened to 32 bits.
+    DWORD Color(int x, int y) const {
+        const DWORD value = Get(x, y);
+        if (info.bmBitsPixel == 8) return info.palette[value];
+        return info.bmBitsPixel == 24 ? 0xFF000000 | value : value;
+    }
     void Set(int x, int y, DWORD value) {
         for (int i = 0; i < BytesPerPixel(); ++i) At(x, y)[i] = static_cast<BYTE>(value >> 8 * i);
     }
