@@ -1,4 +1,4 @@
-// Drawing bitmaps and textures on canvases: operations, opacity, sampling positions, parts and slices.
+// Drawing bitmaps and textures on canvases: operations, opacity, parts and slices.
 #include <functional>
 
 #include "support/host.h"
@@ -51,19 +51,6 @@ TEST(Bitmaps, EveryOperationDoesToAPixelWhatItsFormulaSays) {
         }
 }
 
-TEST(Bitmaps, NearestSamplingIsAnchoredAtTheTopLeft) {
-    for (int size = 1; size < 8; ++size)
-        for (int drawn = 1; drawn < 16; ++drawn) {
-            const OwnedBitmap source = MakeBitmap(size, size, Pattern{});
-            const OwnedCanvas canvas(CreateCanvas(drawn, drawn, nullptr));
-            const RECT dst{0, 0, drawn, drawn};
-            DrawBitmap(canvas.get(), &dst, source.get(), ZORVIC_FILTER_NEAREST);
-            const auto at = [&](int i) { return SlowNearest(i, size, drawn); };
-            EXPECT_TRUE(Shows(canvas.get(), [&](int x, int y) { return Pattern{}(at(x), at(y)); }))
-                << size << " to " << drawn;
-        }
-}
-
 TEST(Bitmaps, PartsOfTheSourceMustLieInsideIt) {
     const OwnedBitmap source = MakeBitmap(12, 9, Pattern{});
     const OwnedCanvas canvas(CreateCanvas(12, 9, nullptr));
@@ -97,9 +84,4 @@ TEST(Textures, DrawTheCurrentSlice) {
             EXPECT_TRUE(Shows(canvas.get(), [&](int x, int y) { return Pattern{}(x + 4 * state, y); }))
                 << "state " << state << ", call " << &draw - draws;
         }
-    const RECT outside{10, 0, 14, 4};
-    SetTextureSlice(texture.get(), 1, &outside);
-    Fill(canvas.get(), Plain{});
-    EXPECT_EQ(DrawTexture(canvas.get(), &dst, texture.get(), 0), 1);
-    EXPECT_TRUE(Shows(canvas.get(), Plain{})) << "a slice that leaves the texture draws nothing";
 }

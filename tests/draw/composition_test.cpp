@@ -1,6 +1,5 @@
 // Canvases mixed, blended and scrolled: formulas by a slow model, and lenient results.
 #include <climits>
-#include <cstring>
 
 #include "support/gdi.h"
 #include "support/slow_pixels.h"
@@ -10,6 +9,9 @@ using namespace host;
 namespace {
 
 constexpr DWORD withAlpha = ZORVIC_OP_SOURCE_OVER;
+
+// The source column or row that nearest sampling shows at i.
+int SlowNearest(int i, int sourceExtent, int drawnExtent) { return i * (sourceExtent * 65536 / drawnExtent) / 65536; }
 
 // The picture of source, drawn into dst with nearest sampling and composed with before by a formula(s, d).
 template <class Formula>

@@ -51,9 +51,4 @@ inline DWORD SlowModulate(DWORD s, DWORD d, DWORD color) {
     return SlowOver(FromChannels([=](int i) { return (Channel(s, i) + 1) * Channel(color, i) / 256; }), d);
 }
 
-// The source column or row that nearest sampling shows at i.
-inline int SlowNearest(int i, int sourceExtent, int drawnExtent) {
-    return i * (sourceExtent * 65536 / drawnExtent) / 65536;
-}
-
 }  // namespace host
