@@ -65,7 +65,7 @@ int DrawTextureTile(Canvas& canvas, const RECT& dst, const Texture& texture, con
 int DrawTextureTopTile(Canvas& canvas, const RECT& dst, const Texture& texture, const RECT* slice, const RECT& margins,
                        const TextureDrawParams& params) {
     const auto source = ResolveSourceRect(texture.Size(), slice);
-    if (!source || dst.left >= dst.right) return 0;
+    if (!source) return 0;
     const TopTiles tiles(*source, dst, margins);
     const CanvasLock target(canvas, canvas.VisiblePart(tiles.Extent()));
     if (!target) return 0;

@@ -16,7 +16,6 @@ void Soften(const Bitmap& bitmap, SoftEffect effect) {
     const SIZE size = bitmap.Size();
     const auto copy = MakeSurface<Bitmap>(size.cx, size.cy, 32, 0, StoreKind::memory);
     if (!copy) return;
-    copy->isHosts = false;
     if (!BlurBitmap(*copy, bitmap)) return;  // the copy's pixels are still undefined
     if (effect == SoftEffect::light) ApplyEffect(*copy, nullptr, WhitenImage);
     BlurBitmap(bitmap, *copy);

@@ -142,7 +142,7 @@ Status BoxFilterBufferSize(SIZE size, int box, int channels, std::size_t* bytes)
     if (size.cx < 1 || size.cy < 1 || box < 1 || channels < 1) return Status::badSize;
     const std::int64_t sumBytes = box <= largestSmallBox ? sizeof(SmallBox::Sum) : sizeof(LargeBox::Sum);
     const std::int64_t rowBytes = std::int64_t{4} * size.cx;
-    const std::int64_t columns = PaddedColumns(Window(std::min(box, largestBox), size.cx));
+    const std::int64_t columns = PaddedColumns(Window(box, size.cx));
     const std::int64_t wanted = 4 * sumBytes * columns + 4 * rowBytes + static_cast<std::int64_t>(alignment);
     if (wanted > PTRDIFF_MAX) return Status::badSize;
     *bytes = static_cast<std::size_t>(wanted);

@@ -30,7 +30,7 @@ bool OrImage(const BITMAP& src, const BITMAP& dst, DWORD value);
 bool AndImage(const BITMAP& src, const BITMAP& dst, DWORD value);
 
 // The mean of the N x N box around each pixel, twice, in place: alpha as well at 32 bits; other depths than that and 24
-// are left alone. False for a size or box below 1 and for null bits; without memory for a second image nothing happens.
+// are left alone. False for a size or box below 1. Null bits, and memory too short for a second image, are no failure.
 bool BlurImage(const BITMAP& image, int box);
 
 }  // namespace zorvic

@@ -45,8 +45,8 @@ public:
     HBITMAP ToSystem();
 
     DWORD filter = 0;  // the operation word
-    // Whether the host may delete it. Not a canvas's surface, nor a copy that a call makes for itself; both come into the
-    // host's hands. Nor what it deletes already, while the resource manager is told.
+    // Whether the host may delete it. Not a canvas's surface, which comes into its hands, nor what goes already, while the
+    // resource manager is told.
     bool isHosts = true;
 
 private:
