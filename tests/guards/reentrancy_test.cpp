@@ -18,6 +18,7 @@ public:
         ++releases;
         DeleteBitmap(bitmap);
         EXPECT_EQ(BitmapToTexture(bitmap), nullptr);
+        SIZE size;
         EXPECT_EQ(GetBitmapSize(bitmap, &size), 1) << "still there";
     }
     void OnChange(HGBITMAP bitmap, DWORD) override {
@@ -26,12 +27,11 @@ public:
     }
 
     int releases = 0, changes = 0;
-    SIZE size{};
 };
 
 HGTEXTURE MakeTexture(int bitsPixel = 32) {
     const HGTEXTURE texture = CreateTextureEx(9, 7, bitsPixel, 0);
-    Fill(texture, [](int, int) { return 0xFF808080; });
+    Fill(texture, Plain{0xFF808080});
     return texture;
 }
 
@@ -42,7 +42,7 @@ void DrawRounded(int bitsPixel) {
     params.alpha = 255;
     params.ellipse = params.rounded = 1;
     const RECT rect{0, 0, 9, 7};
-    EXPECT_EQ(DrawTextureEx3(canvas.get(), &rect, texture.get(), &params, nullptr), 1);
+    DrawTextureEx3(canvas.get(), &rect, texture.get(), &params, nullptr);
     EXPECT_NE(Pixels(canvas.get()).Get(4, 3), 0U);
 }
 
