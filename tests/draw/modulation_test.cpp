@@ -20,9 +20,8 @@ TEST(DrawModulation, MatchesTheModelFromEveryDepth) {
                                   [&](int x, int y) {
                                       const DWORD before = Pattern{2}(x, y);
                                       if (!Inside(dst, x, y)) return before;
-                                      const DWORD s = source.Color(x - 5 + area.left, y - 4 + area.top);
-                                      return color >> 24 == 255 ? SlowTint(s, before, color)
-                                                                : SlowModulate(s, before, color);
+                                      return SlowInColor(source.Color(x - 5 + area.left, y - 4 + area.top), before,
+                                                         color);
                                   }))
                     << "depth " << depth << " color " << std::hex << color << ' ' << ToText(area);
             }

@@ -7,6 +7,7 @@
 #include "raster/cpu_features.h"
 #include "raster/lookup_tables.h"
 #include "support/pixel_bytes.h"
+#include "support/slow_pixels.h"
 
 namespace zorvic {
 
@@ -14,6 +15,7 @@ namespace {
 
 using enum Rows;
 using enum Op;
+using namespace host;
 
 // clang-format off
 constexpr SlotMeaning meanings[] = {  // by columns
@@ -35,24 +37,6 @@ constexpr SlotMeaning meanings[] = {  // by columns
 };
 // clang-format on
 
-enum { blue, green, red, alpha };
-
-struct Channels {
-    std::uint32_t of[4];
-};
-
-Channels Split(std::uint32_t word) { return {{word % 256, word / 256 % 256, word / 65536 % 256, word / 16777216}}; }
-
-// Each channel keeps its low eight bits.
-std::uint32_t Join(const Channels& c) {
-    return c.of[alpha] % 256 * 16777216 + c.of[red] % 256 * 65536 + c.of[green] % 256 * 256 + c.of[blue] % 256;
-}
-
-template <class Formula>
-Channels EachChannel(Formula formula) {
-    return {{formula(blue), formula(green), formula(red), formula(alpha)}};
-}
-
 std::int64_t Stepped(std::int64_t sourceExtent, std::int64_t wholeExtent, std::int64_t position) {
     const std::int64_t step = 65536 * sourceExtent / wholeExtent;
     return position * step / 65536;
@@ -62,31 +46,34 @@ std::uint32_t NearestSample(const BitmapLockInfo& src, const Placement& whole, s
     return SourceColor(src, Stepped(src.bmWidth, whole.width, x), Stepped(src.bmHeight, whole.height, y));
 }
 
+std::int64_t FloorShift(std::int64_t value, int bits) {
+    const std::int64_t unit = std::int64_t{1} << bits;
+    return value >= 0 ? value / unit : -((-value + unit - 1) / unit);
+}
+
 // A filter's coordinate: in 1/256 of a source pixel, centres on centres, with the step's extra unit.
 std::int64_t FilterPosition(std::int64_t sourceExtent, std::int64_t wholeExtent, std::int64_t position) {
     const std::int64_t step = 65536 * sourceExtent / wholeExtent + 1;
-    const std::int64_t at = step / 2 - 32768 + position * step;
-    return (at - ((at % 256 + 256) % 256)) / 256;
+    return FloorShift(step / 2 - 32768 + position * step, 8);
 }
 
-// The source pixel at (x, y), or the nearest one that there is.
-Channels Tap(const BitmapLockInfo& src, std::int64_t x, std::int64_t y) {
-    return Split(SourceColor(src, std::clamp<std::int64_t>(x, 0, src.bmWidth - 1),
-                             std::clamp<std::int64_t>(y, 0, src.bmHeight - 1)));
+// Channel i of the source pixel at (x, y), or of the nearest one that there is.
+int Tap(const BitmapLockInfo& src, std::int64_t x, std::int64_t y, int i) {
+    return Channel(SourceColor(src, std::clamp<std::int64_t>(x, 0, src.bmWidth - 1),
+                               std::clamp<std::int64_t>(y, 0, src.bmHeight - 1)),
+                   i);
 }
 
 std::uint32_t BilinearSample(const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
     if (src.bmWidth == whole.width && src.bmHeight == whole.height) return SourceColor(src, x, y);
     const std::int64_t px = FilterPosition(src.bmWidth, whole.width, x) + 256;
     const std::int64_t py = FilterPosition(src.bmHeight, whole.height, y) + 256;
-    const std::int64_t n = px / 256 - 1, m = py / 256 - 1;
-    const auto tx = static_cast<std::uint32_t>(px % 256), ty = static_cast<std::uint32_t>(py % 256);
-    const std::uint32_t both = tx * ty / 256;
-    return Join(EachChannel([&](int i) {
-        return (Tap(src, n, m).of[i] * (256 - tx - ty + both) + Tap(src, n + 1, m).of[i] * (tx - both) +
-                Tap(src, n, m + 1).of[i] * (ty - both) + Tap(src, n + 1, m + 1).of[i] * both) /
+    const std::int64_t n = px / 256 - 1, m = py / 256 - 1, tx = px % 256, ty = py % 256, both = tx * ty / 256;
+    return FromChannels([&](int i) {
+        return (Tap(src, n, m, i) * (256 - tx - ty + both) + Tap(src, n + 1, m, i) * (tx - both) +
+                Tap(src, n, m + 1, i) * (ty - both) + Tap(src, n + 1, m + 1, i) * both) /
                256;
-    }));
+    });
 }
 
 // The weight of the tap k pixels from the one before the position.
@@ -96,27 +83,22 @@ int TapWeight(std::int64_t position, int k) {
     return ProcessorFeatures.cpuHasMMX ? static_cast<std::int16_t>(entry & 0xFFFF) : entry;
 }
 
-std::int64_t FloorShift(std::int64_t value, int bits) {
-    const std::int64_t unit = std::int64_t{1} << bits;
-    return value >= 0 ? value / unit : -((-value + unit - 1) / unit);
-}
-
 std::uint32_t BicubicSample(const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
     const std::int64_t px = FilterPosition(src.bmWidth, whole.width, x);
     const std::int64_t py = FilterPosition(src.bmHeight, whole.height, y);
     const std::int64_t n = FloorShift(px, 8), m = FloorShift(py, 8);
-    return Join(EachChannel([&](int i) {
+    return FromChannels([&](int i) {
         std::int64_t total = 0;
         for (int row = -1; row <= 2; ++row) {
             std::int64_t sum = 0;
             for (int column = -1; column <= 2; ++column)
-                sum += std::int64_t{Tap(src, n + column, m + row).of[i]} * TapWeight(px, column);
+                sum += std::int64_t{Tap(src, n + column, m + row, i)} * TapWeight(px, column);
             if (ProcessorFeatures.cpuHasMMX) sum = FloorShift(sum + 128, 8);
             total += sum * TapWeight(py, row);
         }
         const std::int64_t value = ProcessorFeatures.cpuHasMMX ? FloorShift(total + 524288, 20) : FloorShift(total, 16);
-        return static_cast<std::uint32_t>(std::clamp<std::int64_t>(value, 0, 255));
-    }));
+        return std::clamp<std::int64_t>(value, 0, 255);
+    });
 }
 
 std::uint32_t AreaSample(const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
@@ -127,16 +109,13 @@ std::uint32_t AreaSample(const BitmapLockInfo& src, const Placement& whole, std:
         return std::max<std::int64_t>(0,
                                       std::min(pixel * 65536 + 65536, from + extent) - std::max(pixel * 65536, from));
     };
-    std::uint64_t sums[4] = {};
+    std::int64_t sums[4] = {};
     for (std::int64_t row = y * height / 65536; row * 65536 < (y + 1) * height; ++row)
-        for (std::int64_t column = x * width / 65536; column * 65536 < (x + 1) * width; ++column) {
-            const Channels pixel = Split(SourceColor(src, column, row));
+        for (std::int64_t column = x * width / 65536; column * 65536 < (x + 1) * width; ++column)
             for (int i = 0; i < 4; ++i)
-                sums[i] += std::uint64_t{pixel.of[i]} * static_cast<std::uint64_t>(overlap(column, x * width, width) *
-                                                                                   overlap(row, y * height, height));
-        }
-    return Join(EachChannel(
-        [&](int i) { return static_cast<std::uint32_t>(sums[i] / static_cast<std::uint64_t>(width * height)); }));
+                sums[i] += Channel(SourceColor(src, column, row), i) * overlap(column, x * width, width) *
+                           overlap(row, y * height, height);
+    return FromChannels([&](int i) { return sums[i] / (width * height); });
 }
 
 // The sample for column x and row y of the whole draw.
@@ -158,62 +137,49 @@ std::uint32_t Sample(Rows rows, const BitmapLockInfo& src, const Placement& whol
     throw std::logic_error("no sample");
 }
 
-Channels Scaled(const Channels& c, std::uint32_t k) {
-    return EachChannel([&](int i) { return c.of[i] * k / 256; });
+DWORD Scaled(DWORD pixel, int k) {
+    return FromChannels([=](int i) { return Channel(pixel, i) * k / 256; });
 }
 
-// The words are added, as 32-bit numbers.
-std::uint32_t Over(const Channels& d, const Channels& s) { return Join(s) + Join(Scaled(d, 256 - s.of[alpha])); }
-
-// Of samples that may have overshot: each channel stops at 255.
-std::uint32_t OverOvershot(const Channels& d, const Channels& s) {
-    const Channels rest = Scaled(d, 256 - s.of[alpha]);
-    return Join(EachChannel([&](int i) { return std::min(s.of[i] + rest.of[i], 255U); }));
-}
-
-std::uint32_t Mixed(Op op, std::uint32_t dst, std::uint32_t src, std::uint32_t amount) {
-    if (amount == 0) return dst;
-    if (amount == 255) return src;
-    const std::uint32_t k = amount + 1;
-    const Channels d = Split(dst), s = Split(src);
-    if (op == crossFade) return Join(EachChannel([&](int i) { return (s.of[i] * k + d.of[i] * (256 - k)) / 256; }));
-    return Join(EachChannel([&](int i) { return d.of[i] * (256 - k) / 256 + s.of[i] * k / 256; }));
+// The words are added, as 32-bit numbers. Samples that may have overshot stop at 255 in each channel.
+DWORD Over(DWORD d, DWORD s, bool overshoots) {
+    const DWORD rest = Scaled(d, 256 - AlphaOf(s));
+    if (!overshoots) return s + rest;
+    return FromChannels([=](int i) { return std::min(Channel(s, i) + Channel(rest, i), 255); });
 }
 
 }  // namespace
 
-std::uint32_t ResultByModel(const SlotMeaning& meaning, std::uint32_t dst, std::uint32_t sample,
-                            std::uint32_t argument) {
-    const Channels d = Split(dst), s = Split(sample);
-    const auto over = meaning.rows == bicubic ? OverOvershot : Over;
+std::uint32_t ResultByModel(const SlotMeaning& meaning, std::uint32_t d, std::uint32_t s, std::uint32_t argument) {
+    const int amount = static_cast<int>(argument % 256);
     switch (meaning.op) {
         case copy:
-            return sample;
+            return s;
         case sourceOver:
-            return over(d, s);
+            return Over(d, s, meaning.rows == bicubic);
         case constantAlpha:
-            return over(d, Scaled(s, argument % 256 + 1));
+            return Over(d, Scaled(s, amount + 1), meaning.rows == bicubic);
         case opaqueAlpha:
-            return Over(d, Scaled({{s.of[blue], s.of[green], s.of[red], 255}}, argument % 256 + 1));
+            return SlowOpaqueAlpha(s, d, amount);
         case colorKey:
-            return sample == argument ? dst : sample;
+            return s == argument ? d : s;
         case multiply:
-            return Join(EachChannel([&](int i) { return (s.of[i] + 1) * d.of[i] / 256; }));
+            return FromChannels([=](int i) { return (Channel(s, i) + 1) * Channel(d, i) / 256; });
         case destinationOver:
-            return dst + Join(Scaled(s, 256 - d.of[alpha]));
+            return d + Scaled(s, 256 - AlphaOf(d));
         case bitOr:
-            return dst | sample;
+            return d | s;
         case grayWash: {
-            const std::uint32_t g = (d.of[blue] + 2 * d.of[green] + d.of[red]) / 4 * s.of[alpha] / 256;
-            Channels washed = EachChannel([&](int i) { return d.of[i] * (256 - d.of[alpha]) / 256 + g; });
-            washed.of[alpha] = d.of[alpha];
-            return Join(washed);
+            const int gray = SlowLuma(d) * AlphaOf(s) / 256;
+            return FromChannels(
+                [=](int i) { return i == 3 ? AlphaOf(d) : Channel(d, i) * (256 - AlphaOf(d)) / 256 + gray; });
         }
         case crossFade:
+            return SlowCrossFade(s, d, amount);
         case mixColor:
-            return Mixed(meaning.op, dst, sample, argument % 256);
+            return SlowMixColor(s, d, amount);
         case makeOpaque:
-            return Join({{d.of[blue], d.of[green], d.of[red], 255}});
+            return d | 0xFF000000;
     }
     throw std::logic_error("no operation");
 }

@@ -20,6 +20,14 @@ inline DWORD SlowOver(DWORD s, DWORD d) {
     return FromChannels([=](int i) { return Channel(s, i) + (Channel(d, i) * (256 - AlphaOf(s)) / 256); });
 }
 
+// By 255ths, rounded to nearest, at most 255.
+inline DWORD SlowBlend(DWORD s, DWORD d) {
+    return FromChannels([=](int i) {
+        const int sum = Channel(s, i) + (2 * Channel(d, i) * (255 - AlphaOf(s)) + 255) / 510;
+        return sum < 255 ? sum : 255;
+    });
+}
+
 // Of a sample that counts as opaque.
 inline DWORD SlowOpaqueAlpha(DWORD s, DWORD d, int alpha) {
     const DWORD opaque = s | 0xFF000000;
@@ -37,18 +45,17 @@ inline DWORD SlowMixColor(DWORD color, DWORD d, int amount) {
         [=](int i) { return Channel(d, i) * (255 - amount) / 256 + Channel(color, i) * (amount + 1) / 256; });
 }
 
-inline DWORD SlowTint(DWORD s, DWORD d, DWORD color) {
-    const int luma = (Channel(s, 2) + 2 * Channel(s, 1) + Channel(s, 0)) / 4;
-    const int lit = (luma + 1) * AlphaOf(color) / 256;
+inline int SlowLuma(DWORD s) { return (Channel(s, 2) + 2 * Channel(s, 1) + Channel(s, 0)) / 4; }
+
+// Drawn in a color: by the luma, or by the alpha where the color has one.
+inline DWORD SlowInColor(DWORD s, DWORD d, DWORD color) {
+    if (AlphaOf(color) < 255)
+        return SlowOver(FromChannels([=](int i) { return (Channel(s, i) + 1) * Channel(color, i) / 256; }), d);
+    const int light = (SlowLuma(s) + 1) * 255 / 256;
     return FromChannels([=](int i) {
-        if (i == 3) return (256 - lit) * AlphaOf(d) / 256 + lit;
+        if (i == 3) return (256 - light) * AlphaOf(d) / 256 + light;
         return (255 - Channel(s, i)) * Channel(d, i) / 256 + Channel(color, i) * Channel(s, i) / 256;
     });
-}
-
-inline DWORD SlowModulate(DWORD s, DWORD d, DWORD color) {
-    if (s == 0) return d;
-    return SlowOver(FromChannels([=](int i) { return (Channel(s, i) + 1) * Channel(color, i) / 256; }), d);
 }
 
 }  // namespace host

@@ -1,10 +1,12 @@
 // The blur of described images, which is the box filter twice, against sums over every box: boxes of all kinds, sizes,
 // steps and depths.
 #include <algorithm>
+#include <cmath>
 
 #include "pixel/described_images.h"
 #include "support/image.h"
 #include "support/levels.h"
+#include "support/slow_pixels.h"
 
 namespace zorvic {
 namespace {
@@ -26,17 +28,14 @@ Image Filtered(const Image& src, int box) {
     Image dst = src;
     dst.Fill([&](int x, int y) {
         const std::vector<double> across = Weights(box, x, width), down = Weights(box, y, height);
-        std::uint32_t pixel = 0;
-        for (int shift = 0; shift < src.Info().bmBitsPixel; shift += 8) {
+        return host::FromChannels([&](int channel) {
             double sum = 0;
             for (int j = 0; j < height; ++j)
                 for (int i = 0; i < width; ++i)
                     sum += across[static_cast<std::size_t>(i)] * down[static_cast<std::size_t>(j)] *
-                           (src.At(i, j) >> shift & 255);
-            const double area = static_cast<double>(box) * box;
-            pixel |= static_cast<std::uint32_t>((sum + (box % 2 == 0 ? area / 2 : (area - 1) / 2)) / area) << shift;
-        }
-        return pixel;
+                           host::Channel(src.At(i, j), channel);
+            return static_cast<int>(std::floor(sum / (static_cast<double>(box) * box) + 0.5));
+        });
     });
     return dst;
 }
@@ -79,12 +78,10 @@ TEST_P(BlurImages, LargestSumsFit) {
 
 TEST(BlurImage, LeavesOtherDepthsAlone) {
     Random random(3);
-    for (const int bitsPixel : {8, 16}) {
-        const Image image(random, 8, 8, bitsPixel), before = image;
-        EXPECT_TRUE(Blur(image, 3));
-        EXPECT_FALSE(Blur(image, 0));
-        EXPECT_TRUE(SameBytes(image, before)) << bitsPixel;
-    }
+    const Image image(random, 8, 8, 16), before = image;
+    EXPECT_TRUE(Blur(image, 3));
+    EXPECT_FALSE(Blur(image, 0));
+    EXPECT_TRUE(SameBytes(image, before));
 }
 
 }  // namespace
