@@ -65,7 +65,7 @@ TEST_P(EverySlot, DrawsWhatTheModelDraws) {
         ASSERT_EQ(slot.run(packedWeights ? packedKernels : baselineKernels, job), 1);
         images.dst.Get(got);
         images.dst.Put(images.dstBytes);
-        DrawByModel(slot.slot, job);
+        DrawByModel(MeaningOf(slot.slot), job);
         ASSERT_EQ(images.dst.DifferenceOf(got), "") << "case " << number << ": " << DescriptionOf(job);
     }
 }

@@ -194,8 +194,7 @@ std::uint32_t SourceColor(const BitmapLockInfo& src, std::int64_t x, std::int64_
     return src.bmBitsPixel == 24 ? 0xFF000000 + pixel : pixel;
 }
 
-void DrawByModel(int slot, const Job& job) {
-    const SlotMeaning meaning = MeaningOf(slot);
+void DrawByModel(const SlotMeaning& meaning, const Job& job) {
     for (int y = 0; y < job.dst.bmHeight; ++y)
         for (int x = 0; x < job.dst.bmWidth; ++x) {
             const std::int64_t column = job.placement.left + x, row = job.placement.top + y;

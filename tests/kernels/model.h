@@ -23,7 +23,7 @@ struct SlotMeaning {
 SlotMeaning MeaningOf(int slot);
 
 // Filters by the weights that the processor, or the one that is forced, has in memory.
-void DrawByModel(int slot, const Job& job);
+void DrawByModel(const SlotMeaning& meaning, const Job& job);
 
 // What an operation makes of one pixel and a sample of such rows.
 std::uint32_t ResultByModel(const SlotMeaning& meaning, std::uint32_t dst, std::uint32_t sample,
