@@ -1,19 +1,13 @@
 // Arguments that no sensible caller passes: nothing crashes, hangs, leaves the clip or writes outside the pixels.
 #include <cmath>
-#include <limits>
 #include <thread>
 
-#include "script.h"
+#include "drawing.h"
 #include "support/cpu_state.h"
-
-#include <psapi.h>
 
 using namespace vek_test;
 
 namespace {
-
-constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
-constexpr float infinite = std::numeric_limits<float>::infinity();
 
 // The machine may have other work.
 double ProcessorSeconds() {
@@ -37,80 +31,67 @@ void SetRandomStyle(VekCanvas canvas, std::mt19937& random) {
 
 }  // namespace
 
-TEST(Abuse, NumbersThatAreNotFiniteAreRefused) {
-    for (const NumberCall& call : NumberCalls())
-        for (std::size_t bad = 0; bad < call.count; ++bad)
-            for (const float number : {notANumber, infinite, -infinite}) {
-                Drawing drawing(64, 64);
-                Pen pen(drawing);
-                Draw(pen, "linear 0 0 9 9");
-                float floats[6] = {10, 10, 30, 40, 20, 25};
-                floats[bad] = number;
-                EXPECT_EQ(call.call(pen, floats), 0) << call.name << ", float " << bad;
-                EXPECT_EQ(drawing.Area(), 0) << call.name << ", float " << bad;
-                VekBounds bounds{};
-                vekPathGetBounds(pen, &bounds);
-                EXPECT_EQ(bounds.right, 0) << call.name << ", float " << bad;
-            }
-}
-
-// Ordinary numbers and extreme ones by turns, in every call, style, clip and layer.
+// Ordinary numbers, and by turns extreme ones and such as are refused, in every call, style, clip and layer.
 TEST(Abuse, RandomCallsEndAndStayInsideClipAndMemory) {
-    constexpr float extremes[] = {0,    1e-40F, 0.3F, -30,   256.5F, 32767, -32769, 65536,   1e5F,  -1e6F,
-                                  8e6F, -9e6F,  2e9F, -3e9F, 1e18F,  1e30F, -1e30F, 3.4e38F, -3e38F};
+    constexpr float extremes[] = {0,    1e-40F, 0.3F,  -30,   256.5F, 32767,   -32769, 65536,    1e5F,      -1e6F,
+                                  8e6F, 2e9F,   -3e9F, 1e30F, -1e30F, 3.4e38F, -3e38F, INFINITY, -INFINITY, NAN};
     constexpr int size = 70, stride = 80, rows = size + 20;
     Pixels memory(stride, rows);
     const OwnedBitmap bitmap(vekBitmapCreateFromData(&memory.At(5, 10), size, size, stride * 4));
     const Owned<VekCanvas> canvas(vekCanvasCreate());
     vekCanvasSetBitmap(canvas.get(), bitmap.get());
     Pen pen(canvas.get());
+    Draw(pen, "linear 0 0 20 20");
     std::mt19937 random(2);
     const auto pixel = [&] { return static_cast<LONG>(random() % 90) - 10; };
-    for (int round = 0; round < 16000; ++round) {
+    for (int round = 0; round < 26000; ++round) {
+        const NumberCall& call = NumberCalls()[random() % NumberCalls().size()];
+        if (call.floats == 0) continue;
+        SCOPED_TRACE(call.name + ' ' + std::to_string(round));
         if (round % 50 == 0) FillWithNoise(memory, static_cast<unsigned>(round));
         const Pixels before = memory;
-        const NumberCall& call = NumberCalls()[random() % NumberCalls().size()];
-        const bool isLength = call.name == std::string("width") || call.name == std::string("dashes");
-        float floats[6];
-        for (float& f : floats) {
+        const bool isLength = call.name == "width" || call.name == "dashes";
+        std::vector<float> floats(call.count, static_cast<float>(random() % 2));
+        double sum = 0;
+        for (float& f : std::span(floats).first(call.floats)) {
             f = round % 2 ? extremes[random() % std::size(extremes)]
                           : static_cast<float>(static_cast<int>(random() % 4000) - 1500) / 25;
             if (isLength) f = std::abs(f);
+            sum += static_cast<double>(f);
         }
         const RECT clip{pixel(), pixel(), pixel(), pixel()}, rect{pixel(), pixel(), pixel(), pixel()};
-        Draw(pen, round % 40 == 0 ? "layer 200" : "save");
-        SetRandomStyle(canvas.get(), random);
-        vekCanvasClipRect(canvas.get(), &clip);
-        vekCanvasTranslate(canvas.get(), static_cast<float>(pixel()) / 4, static_cast<float>(pixel()) / 4);
-        vekCanvasSetGradient(canvas.get(), pen);
+        Draw(pen, round % 40 == 0 ? "layer 0 0 99 99 200" : "save");
+        SetRandomStyle(pen, random);
+        vekCanvasClipRect(pen, &clip);
+        vekCanvasTranslate(pen, static_cast<float>(pixel()) / 4, static_cast<float>(pixel()) / 4);
+        vekCanvasSetGradient(pen, pen);
         const double start = ProcessorSeconds();
-        EXPECT_TRUE(call.call(pen, floats) == 1 || (isLength && floats[0] == 0)) << call.name;
+        EXPECT_EQ(call.call(pen, floats), std::isfinite(sum) && !(isLength && sum == 0));
         Draw(pen, "circle 30 30 20");
-        if (round % 4 == 0 && pen.gradient) Draw(pen, "#3000FFFF stop 0.4  #C0FFFFFF stop 1  circle 30 30 20");
+        if (round % 4 == 0) Draw(pen, "#3000FFFF stop 0.4  #C0FFFFFF stop 1  circle 30 30 20");
         if (round % 8 < 2) {
             EXPECT_EQ(Draw(pen, "path  line 10 10 50 50"), 1);
-            vekCanvasDrawColor(canvas.get(), random(), &rect);
-            pen.path = MakePath();
+            vekCanvasDrawColor(pen, random(), &rect);
+            pen.path.reset(vekPathCreate());
         }
-        vekCanvasRestore(canvas.get());
-        ASSERT_LT(ProcessorSeconds() - start, 5) << "round " << round << ", " << call.name;
-        ASSERT_TRUE(IsPremultiplied(memory)) << "round " << round << ", " << call.name;
+        vekCanvasRestore(pen);
+        ASSERT_LT(ProcessorSeconds() - start, 5);
         for (int y = 0; y < rows; ++y)
             for (int x = 0; x < stride; ++x) {
                 const int left = x - 5, top = y - 10;
                 const bool inside = left >= std::max<LONG>(clip.left, 0) && left < std::min<LONG>(clip.right, size) &&
                                     top >= std::max<LONG>(clip.top, 0) && top < std::min<LONG>(clip.bottom, size);
-                if (!inside) {
-                    ASSERT_EQ(memory.At(x, y), before.At(x, y)) << "round " << round << ", " << call.name;
-                }
+                const Pixel now = memory.At(x, y);
+                const int most = std::max({Channel(now, 0), Channel(now, 8), Channel(now, 16)});
+                ASSERT_TRUE(inside ? most <= Channel(now, 24) : now == before.At(x, y)) << x << ' ' << y;
             }
     }
-    EXPECT_EQ(vekCanvasRestore(canvas.get()), 0);
+    EXPECT_EQ(vekCanvasRestore(pen), 0);
 }
 
 TEST(Abuse, LargePathsTakeBoundedTime) {
     std::mt19937 random(4);
-    const OwnedPath path = MakePath();
+    const OwnedPath path(vekPathCreate());
     for (int i = 0; i < 100000; ++i)
         vekPathLineTo(path.get(), static_cast<float>(random() % 64000) / 100 - 20,
                       static_cast<float>(random() % 64000) / 100 - 20);
@@ -151,7 +132,7 @@ TEST(Abuse, ThreadsDrawWhatOneDraws) {
         std::mt19937 random(index % seeds);
         Pixels picture(8, 8, 0x80402010);
         const OwnedBitmap bitmap = picture.Wrap();
-        const OwnedPath path = MakePath();
+        const OwnedPath path(vekPathCreate());
         vekPathAddCircle(path.get(), 11, 11, 9);
         for (int i = 0; i < rounds; ++i) {
             SetRandomStyle(drawing, random);
@@ -169,28 +150,6 @@ TEST(Abuse, ThreadsDrawWhatOneDraws) {
     for (std::thread& thread : threads) thread.join();
     for (std::size_t i = threadCount; i < drawings.size(); ++i) draw(i);
     for (std::size_t i = 0; i < threadCount; ++i) EXPECT_EQ(sums[i], sums[threadCount + i % seeds]) << "thread " << i;
-}
-
-TEST(Abuse, CyclesLeakNothing) {
-    const auto committed = [] {
-        PROCESS_MEMORY_COUNTERS counters{};
-        GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
-        return counters.PagefileUsage;
-    };
-    const auto cycle = [] {
-        for (int mode = 0; mode < 27; ++mode) {
-            Drawing drawing(64, 64);
-            Pen pen(drawing);
-            const float floats[] = {10, 10, 30, 40, 20, 25};
-            Draw(pen, "style " + std::to_string(mode % 3) + "  mode " + std::to_string(mode) + "  layer 99");
-            for (const NumberCall& call : NumberCalls()) call.call(pen, floats);
-            Draw(pen, "path");
-        }
-    };
-    for (int i = 0; i < 5; ++i) cycle();
-    const SIZE_T before = committed();
-    for (int i = 0; i < 30; ++i) cycle();
-    EXPECT_LT(committed(), before + 150000) << "30 x 27 cycles";
 }
 
 #if ZORVIC_WATCHES_CALLS

@@ -1,11 +1,15 @@
-// What the tests of vekgraphic.dll share: a canvas with pixels of its own, owning handles, sums and checks over pixels.
+// What the tests of vekgraphic.dll share: a canvas with pixels of its own, owning handles, and calls as text: "width 10
+// cap 1  line 40 60 120 90" makes three calls.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <random>
+#include <span>
+#include <string>
 #include <vector>
 
 #include "vek/vekgraphic.h"
@@ -27,8 +31,6 @@ using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, DeleteHandle>;
 using OwnedBitmap = Owned<VekBitmap>;
 using OwnedPath = Owned<VekPath>;
 using OwnedGradient = Owned<VekGradient>;
-
-inline OwnedPath MakePath() { return OwnedPath(vekPathCreate()); }
 
 struct Pixels {
     int width;
@@ -70,19 +72,6 @@ inline void FillWithNoise(Pixels& pixels, unsigned seed) {
     }
 }
 
-// No colour above its alpha.
-inline testing::AssertionResult IsPremultiplied(const Pixels& pixels) {
-    for (int y = 0; y < pixels.height; ++y)
-        for (int x = 0; x < pixels.width; ++x) {
-            const Pixel pixel = pixels.At(x, y);
-            for (const int shift : {0, 8, 16})
-                if (Channel(pixel, shift) > Channel(pixel, 24))
-                    return testing::AssertionFailure()
-                           << std::hex << pixel << std::dec << " at (" << x << ", " << y << ")";
-        }
-    return testing::AssertionSuccess();
-}
-
 // All four channels within a distance.
 inline testing::AssertionResult IsNear(Pixel got, Pixel wanted, int distance) {
     for (const int shift : {0, 8, 16, 24})
@@ -90,5 +79,56 @@ inline testing::AssertionResult IsNear(Pixel got, Pixel wanted, int distance) {
             return testing::AssertionFailure() << std::hex << "got " << got << ", wanted " << wanted;
     return testing::AssertionSuccess();
 }
+
+// What calls work on: a canvas, and what the calls before made.
+struct Pen {
+    explicit Pen(VekCanvas c) : canvas(c) {}
+    operator VekCanvas() const { return canvas; }
+    operator VekPath() const { return path.get(); }
+    operator VekGradient() const { return gradient.get(); }
+    operator VekBitmap() const { return bitmap.get(); }
+
+    // The argument for a parameter of this type: an object, memory, the colour or the next number.
+    template <class T>
+    T Argument(const float*& numbers) {
+        if constexpr (std::is_same_v<T, const RECT*>)
+            for (LONG& side : memory) side = static_cast<LONG>(*numbers++);
+        if constexpr (std::is_convertible_v<Pen&, T>)
+            return *this;
+        else if constexpr (std::is_pointer_v<T>)
+            return reinterpret_cast<T>(memory);
+        else if constexpr (std::is_same_v<T, DWORD>)
+            return color;
+        else
+            return static_cast<T>(*numbers++);
+    }
+
+    VekCanvas canvas;
+    OwnedPath path{vekPathCreate()};
+    OwnedGradient gradient;
+    Pixels green{20, 20, 0xFF00FF00};
+    OwnedBitmap bitmap = green.Wrap();
+    LONG memory[4] = {9, 9, 9, 9};
+    DWORD color = 0xFF000000;  // set by a word #AARRGGBB
+};
+
+struct NumberCall {
+    std::string name;
+    std::size_t count;   // of numbers, at least
+    std::size_t floats;  // the first of them
+    std::function<int(Pen&, std::span<const float>)> call;
+};
+const std::vector<NumberCall>& NumberCalls();
+
+// Makes the calls; 1 when all of them returned 1.
+int Draw(Pen& pen, const std::string& text);
+
+inline int Draw(VekCanvas canvas, const std::string& text) {
+    Pen pen(canvas);
+    return Draw(pen, text);
+}
+
+// Two texts give the same pixels, from nothing.
+testing::AssertionResult AreTheSame(const std::string& one, const std::string& other);
 
 }  // namespace vek_test
