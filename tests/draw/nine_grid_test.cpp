@@ -54,11 +54,11 @@ TEST(NineGrid, CutsBothSidesAtTheMargins) {
         {0, 3, 90, 83}, {100, 7, 0, 9}, 1, 1,
         {{{0, 3, 60, 10}, {10, 5, 70, 12}}, {{0, 10, 60, 74}, {10, 12, 70, 36}}, {{0, 74, 60, 83}, {10, 36, 70, 45}}});
     expect({0, 3, 90, 83}, {0, 0, 100, 100}, 1, 1, {{{30, 43, 90, 83}, {10, 5, 70, 45}}});
-    // Ten times 6 columns on the left, 60 + 20 on the right, of 50; 50 rows above, 50 + 20 below, of as many.
+    // Ten times 6 columns on the left, 60 + 20 on the right, of 50; 60 rows above, 60 + 10 below, of as many.
     constexpr RECT narrow{0, 3, 50, 53};
     expect(
-        narrow, {6, 5, 8, 7}, 10, 1,
-        {{narrow, {10, 5, 16, 10}}, {narrow, {62, 5, 70, 10}}, {narrow, {10, 38, 16, 45}}, {narrow, {62, 38, 70, 45}}});
+        narrow, {6, 6, 8, 7}, 10, 1,
+        {{narrow, {10, 5, 16, 11}}, {narrow, {62, 5, 70, 11}}, {narrow, {10, 38, 16, 45}}, {narrow, {62, 38, 70, 45}}});
     // Outside the texture but for one corner; then there is no slice at all.
     expect(dst, margins, 1, 0.5, {{{2, 3, 5, 6}, {20, 10, 32, 24}}});
     for (const double none : {0.0, -1.0, HUGE_VAL}) expect(dst, margins, 1, none, {});

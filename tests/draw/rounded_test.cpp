@@ -29,7 +29,7 @@ TEST(RoundedTextures, KeepTheirMiddleAndLoseTheirCorners) {
             EXPECT_NEAR(coverage, area, area * 0.04) << "filter " << filter << ", ellipse " << ellipse;
         }
     // Other depths are widened first.
-    OwnedTexture rgb(CreateTextureEx(8, 8, 24, 0));
+    const OwnedTexture rgb(CreateTextureEx(8, 8, 24, 0));
     Fill(rgb.get(), Plain{0x123456});
     const OwnedCanvas canvas(CreateCanvas(8, 8, nullptr));
     TextureDrawParams params{};

@@ -1,5 +1,5 @@
-// The C++ wrapper's owners, locks and scopes: nothing is deleted twice or not at all, conversions use their argument up,
-// locks and styles end with their scope.
+// The C++ wrapper's owners and locks: nothing is deleted twice or not at all, conversions use their argument up, locks
+// end with their scope.
 #include <type_traits>
 
 #include "support/allocations.h"
@@ -110,17 +110,6 @@ TEST(WrapperLocks, TellOfChangesOnceAtTheirEnd) {
         EXPECT_EQ(manager.log, "change 6;");
     }
     EXPECT_EQ(manager.log, "change 6;change 7;");
-}
-
-TEST(WrapperStyles, EndWithTheirScope) {
-    const Canvas canvas = Canvas::Create(4, 4);
-    canvas.SetStrokeWidth(3);
-    {
-        const zorvic::StyleScope saved = canvas.SaveStyle();
-        canvas.SetStrokeWidth(5);
-        EXPECT_EQ(canvas.GetStrokeWidth(), 5);
-    }
-    EXPECT_EQ(canvas.GetStrokeWidth(), 3);
 }
 
 }  // namespace
