@@ -1,4 +1,4 @@
-// CopyBitmap: what is copied where, between which formats, and copies within one bitmap.
+// CopyBitmap: what is copied where, and between which formats.
 #include <climits>
 #include <optional>
 
@@ -88,23 +88,6 @@ TEST(CopyBitmap, CopiesAnAreaBetweenFormats) {
                 EXPECT_EQ(filter, copies ? 0x02123456U : 0U);
                 // The palette comes along, but never into the ramp.
                 EXPECT_EQ(PaletteOf(dst), to.colorCount != 0 && copies ? PaletteOf(src) : palette);
-            }
-}
-
-TEST(CopyBitmap, OverlappingAreasOfOneBitmapCopyWhatWasThere) {
-    for (const Format& format : formats)
-        for (int dy = -1; dy <= 1; ++dy)
-            for (int dx = -1; dx <= 1; ++dx) {
-                SCOPED_TRACE(testing::Message() << format.name << " moved by " << dx << ", " << dy);
-                const OwnedBitmap bitmap = Make(format, 16, 16);
-                Fill(bitmap.get(), Pattern{});
-                const Snapshot before(bitmap.get());
-                const RECT from{3, 3, 12, 12};
-                const RECT to{3 + dx, 3 + dy, 12 + dx, 12 + dy};
-                EXPECT_EQ(CopyBitmap(bitmap.get(), &to, bitmap.get(), &from), 1);
-                EXPECT_TRUE(Shows(bitmap.get(), [&](int x, int y) {
-                    return Inside(to, x, y) ? before(x - dx, y - dy) : before(x, y);
-                }));
             }
 }
 
