@@ -42,8 +42,8 @@ public:
     void Spoil(Random& random, int traits) {
         const LONG rowBytes = record.bmWidth * bytesPerPixel;
         const LONG widths[] = {0, -3, INT32_MIN, INT32_MAX, step / bytesPerPixel + 1};
-        // The last two make few pixels or bytes when these are counted in 32 bits. 64-bit programs may have the last one.
-        constexpr LONG heights[] = {0, INT32_MIN, INT32_MIN + 1, 0x40000001};
+        // Counted in 32 bits, their pixels or bytes are few, or positive. 64-bit programs may have the last one.
+        constexpr LONG heights[] = {0, -0x3FFFFFFF, INT32_MIN + 1, 0x40000001};
         const int member = random.Below(4);
         if (member == 0) record.bmBits = nullptr;
         if (member == 1) record.bmWidth = widths[random.Below(traits & usesSteps ? 5 : 3)];
