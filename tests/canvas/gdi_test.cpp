@@ -5,7 +5,7 @@ using namespace host;
 
 // GDI scales the position; our own arithmetic would have painted (4, 4) to (8, 8) and missed.
 TEST(CanvasGdi, PaintsWhereAScaledDeviceContextSaysSo) {
-    for (const CanvasKind& kind : CanvasKinds()) {
+    for (const CanvasKind& kind : canvasKinds) {
         if (kind.create) continue;
         SCOPED_TRACE(kind.name);
         const Target target(kind, 13, 9);
@@ -21,7 +21,7 @@ TEST(CanvasGdi, PaintsWhereAScaledDeviceContextSaysSo) {
 
 // Both rectangles of the call are locked at once. One begins in the middle row, which tells nothing of the row order.
 TEST(CanvasGdi, OneCanvasMayBeSourceAndDestination) {
-    for (const CanvasKind& kind : CanvasKinds()) {
+    for (const CanvasKind& kind : canvasKinds) {
         SCOPED_TRACE(kind.name);
         const Target target(kind, 20, 15);
         const Snapshot before = target.Shown();

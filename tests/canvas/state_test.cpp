@@ -79,7 +79,7 @@ void Change(HGCANVAS canvas, Model& model, zorvic::Random& random) {
 
 TEST(CanvasState, FollowsTheModel) {
     zorvic::Random random(1);
-    for (const CanvasKind& kind : CanvasKinds())
+    for (const CanvasKind& kind : canvasKinds)
         for (int round = 0; round < 60; ++round) {
             SCOPED_TRACE(testing::Message() << kind.name << ", round " << round);
             const Target target(kind, width, height);
@@ -89,7 +89,7 @@ TEST(CanvasState, FollowsTheModel) {
                 ExpectState(target.Get(), model);
             }
             const HDC dc = GetCanvasHandle(target.Get());
-            target.FillPlain(0);
+            target.Fill(Plain{});
             PatBlt(dc, -1000, -1000, 2000, 2000, WHITENESS);
             EXPECT_TRUE(target.Keeps([&](int x, int y) { return Inside(model.clip, x, y) ? 0xFFFFFFFF : 0; }));
             POINT mapped{0, 0};

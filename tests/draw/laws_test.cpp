@@ -154,7 +154,7 @@ Snapshot ShownWithoutClip(const RandomDraw& draw, const Snapshot& before, POINT 
 TEST(Draws, AreCutByTheClipAndMovedByTheOriginsOnEveryCanvas) {
     const DrawSources sources;
     zorvic::Random random(1);
-    for (const CanvasKind& kind : CanvasKinds())
+    for (const CanvasKind& kind : canvasKinds)
         for (int round = 0; round < 300; ++round) {
             const Target target(kind, width, height);
             const bool surface = target.HostDc() == nullptr;

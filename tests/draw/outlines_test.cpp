@@ -60,12 +60,13 @@ TEST(Outlines, OtherCanvasesAreDrawnByGdi) {
     const GdiBitmap dib = GdiBitmap::Dib(12, 8);
     const OwnedCanvas dcCanvas(CreateCanvasFromDC(dib.Dc()));
     EXPECT_EQ(GeoRectFocusEx(dcCanvas.get(), &rect, 0xFFFFFFFF), 1);
+    const OwnedBitmap shown = dib.Shown();
+    const Snapshot pixels(shown.get());
     int lit = 0;
-    for (int x = 0; x < 12; ++x)
-        for (int y = 0; y < 8; ++y)
-            if (GetPixel(dib.Dc(), x, y) != 0) {
-                EXPECT_TRUE(OnFrame(rect, x, y)) << x << ' ' << y;
-                ++lit;
-            }
+    EXPECT_TRUE(Shows(shown.get(), [&](int x, int y) {
+        const DWORD pixel = OnFrame(rect, x, y) ? pixels(x, y) : 0;
+        lit += pixel != 0;
+        return pixel;
+    }));
     EXPECT_GE(lit, 9) << "about half of the 20 pixels of the frame";
 }

@@ -182,6 +182,12 @@ inline bool Inside(const RECT& rect, int x, int y) {
     return x >= rect.left && x < rect.right && y >= rect.top && y < rect.bottom;
 }
 
+// Whether an area is not empty and lies in a surface.
+inline bool LiesIn(const RECT& area, LONG width, LONG height) {
+    return area.left >= 0 && area.left < area.right && area.right <= width && area.top >= 0 && area.top < area.bottom &&
+           area.bottom <= height;
+}
+
 // For failure messages.
 inline std::string ToText(const RECT& rect) {
     return "{" + std::to_string(rect.left) + ", " + std::to_string(rect.top) + ", " + std::to_string(rect.right) +

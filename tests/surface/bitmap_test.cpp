@@ -66,8 +66,7 @@ TEST(Bitmap, LocksAreasThatLieInside) {
         for (int i = 0; i < 8 * 8 * 8 * 8; ++i) {
             const RECT area{edges[i & 7], edges[i >> 3 & 7], edges[i >> 6 & 7], edges[i >> 9]};
             SCOPED_TRACE(std::to_string(whole.bmBitsPixel) + " bits " + ToText(area));
-            const bool inside = area.left >= 0 && area.top >= 0 && area.left < area.right && area.top < area.bottom &&
-                                area.right <= width && area.bottom <= height;
+            const bool inside = LiesIn(area, width, height);
             BITMAP part{};
             BitmapLockInfo partEx{};
             ASSERT_EQ(LockBitmapBits(bitmap.get(), &part, &area), inside ? 1 : 0);

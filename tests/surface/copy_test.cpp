@@ -43,11 +43,6 @@ std::optional<RECT> AreaByChance(zorvic::Random& random, LONG width, LONG height
     return area;
 }
 
-bool LiesInside(const RECT& area, LONG width, LONG height) {
-    return area.left >= 0 && area.left < area.right && area.right <= width && area.top >= 0 && area.top < area.bottom &&
-           area.bottom <= height;
-}
-
 TEST(CopyBitmap, CopiesAnAreaBetweenFormats) {
     constexpr int dstWidth = 12, dstHeight = 9, srcWidth = 8, srcHeight = 11;
     zorvic::Random random(1);
@@ -71,8 +66,8 @@ TEST(CopyBitmap, CopiesAnAreaBetweenFormats) {
                     CopyBitmap(dst.get(), dstArea ? &*dstArea : nullptr, src.get(), srcArea ? &*srcArea : nullptr), 1);
 
                 const bool alike = from.bitsPixel == to.bitsPixel && from.Colors() == to.Colors();
-                const bool copies = (alike || to.bitsPixel == 32) && LiesInside(placed, dstWidth, dstHeight) &&
-                                    LiesInside(taken, srcWidth, srcHeight);
+                const bool copies = (alike || to.bitsPixel == 32) && LiesIn(placed, dstWidth, dstHeight) &&
+                                    LiesIn(taken, srcWidth, srcHeight);
                 // The area of the destination only places the copy, which ends with the surface.
                 const RECT copied{placed.left, placed.top, placed.left + taken.right - taken.left,
                                   placed.top + taken.bottom - taken.top};
