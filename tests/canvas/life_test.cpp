@@ -5,19 +5,6 @@
 
 using namespace host;
 
-namespace {
-
-DWORD FilterOf(auto surface) {
-    DWORD filter = 0;
-    if constexpr (std::is_same_v<decltype(surface), HGCANVAS>)
-        EXPECT_EQ(GetCanvasFilter(surface, &filter), 1);
-    else
-        EXPECT_EQ(GetBitmapFilter(AsBitmap(surface), &filter), 1);
-    return filter;
-}
-
-}  // namespace
-
 TEST(CanvasLife, StartsTransparentAndPlain) {
     for (const auto create : {CreateCanvas, CreateSystemCanvas}) {
         SCOPED_TRACE(create == CreateCanvas ? "memory" : "system");

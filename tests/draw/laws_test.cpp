@@ -47,41 +47,36 @@ struct RandomDraw {
     RECT unclipped{};
 };
 
-// What draws read from.
-class DrawSources {
-public:
-    DrawSources();
-    // The operation words of the sources are the next draw's. onSurface: also what only canvases with a surface do, and
-    // what asks for their alpha.
-    RandomDraw Next(zorvic::Random& random, bool onSurface) const;
+// What draws read from: bitmaps of every depth, a texture and a canvas.
+struct DrawSources {
+    DrawSources() {
+        for (const int depth : {8, 8, 24, 32}) {
+            bitmaps.push_back(MakeBitmap(sourceWidth, sourceHeight, depth, bitmaps.empty() ? 0 : 200));
+            Pixels pixels(bitmaps.back().get());
+            for (int i = 0; pixels->colorCount == 200 && i < 200; ++i) pixels->palette[i] = picture(i, 20);
+            pixels.Fill([=](int x, int y) { return depth == 8 ? Pattern{9}(x, y) % 200 : picture(x, y); });
+        }
+        Fill(skin.get(), picture);
+        Fill(canvas.get(), picture);
+    }
 
-private:
-    std::vector<OwnedBitmap> bitmaps;  // of every depth
-    OwnedTexture skin;
-    OwnedCanvas canvas;
+    static constexpr PremultipliedPattern picture{7};
+    std::vector<OwnedBitmap> bitmaps;
+    const OwnedTexture skin{CreateTexture(sourceWidth, sourceHeight)};
+    const OwnedCanvas canvas{CreateCanvas(sourceWidth, sourceHeight, nullptr)};
 };
 
-DrawSources::DrawSources()
-    : skin(CreateTexture(sourceWidth, sourceHeight)), canvas(CreateCanvas(sourceWidth, sourceHeight, nullptr)) {
-    for (const int depth : {8, 8, 24, 32}) {
-        bitmaps.push_back(MakeBitmap(sourceWidth, sourceHeight, depth, bitmaps.empty() ? 0 : 200));
-        Pixels pixels(bitmaps.back().get());
-        pixels.Fill([=](int x, int y) { return depth == 8 ? Pattern{9}(x, y) % 200 : PremultipliedPattern{7}(x, y); });
-        for (int i = 0; pixels->colorCount == 200 && i < 200; ++i) pixels->palette[i] = PremultipliedPattern{5}(i, 0);
-    }
-    Fill(skin.get(), PremultipliedPattern{7});
-    Fill(canvas.get(), PremultipliedPattern{7});
-}
-
-RandomDraw DrawSources::Next(zorvic::Random& random, bool onSurface) const {
+// The operation words of the sources are the draw's, until the next one. onSurface: also what only canvases with a surface
+// do, and what asks for their alpha.
+RandomDraw NextDraw(const DrawSources& sources, zorvic::Random& random, bool onSurface) {
     constexpr DWORD operations[] = {ZORVIC_OP_COPY, ZORVIC_OP_SOURCE_OVER, ZORVIC_OP_COLOR_KEY, ZORVIC_OP_MULTIPLY,
                                     ZORVIC_OP_DESTINATION_OVER};
     constexpr DWORD filters[] = {ZORVIC_FILTER_NEAREST, ZORVIC_FILTER_BILINEAR, ZORVIC_FILTER_BICUBIC,
                                  ZORVIC_FILTER_AREA};
     constexpr BYTE alphas[] = {0, 1, 128, 254, 255, 255};
-    const HGBITMAP bitmap = bitmaps[static_cast<std::size_t>(random.Below(4))].get();
-    const HGTEXTURE t = skin.get();
-    const HGCANVAS o = canvas.get();
+    const HGBITMAP bitmap = sources.bitmaps[static_cast<std::size_t>(random.Below(4))].get();
+    const HGTEXTURE t = sources.skin.get();
+    const HGCANVAS o = sources.canvas.get();
     const RECT part = PartOf(random), dst = RectByChance(random, part), margins = MarginsByChance(random);
     const DWORD color = random.Pixel(), filter = filters[random.Below(4)];
     const DWORD operation = operations[random.Below(onSurface ? 5 : 4)];  // the last one asks the canvas for its alpha
@@ -158,7 +153,7 @@ TEST(Draws, AreCutByTheClipAndMovedByTheOriginsOnEveryCanvas) {
         for (int round = 0; round < 300; ++round) {
             const Target target(kind, width, height);
             const bool surface = target.HostDc() == nullptr;
-            const RandomDraw draw = sources.Next(random, surface);
+            const RandomDraw draw = NextDraw(sources, random, surface);
             const DWORD filter = random.Below(2) ? ZORVIC_OP_SOURCE_OVER : ZORVIC_OP_COPY;
             const POINT viewport{random.Below(30) - 9, random.Below(30) - 9},
                 window{random.Below(20) - 9, random.Below(20) - 9};

@@ -38,6 +38,17 @@ inline HGBITMAP AsBitmap(HGBITMAP bitmap) { return bitmap; }
 inline HGBITMAP AsBitmap(HGTEXTURE texture) { return reinterpret_cast<HGBITMAP>(texture); }
 inline HGBITMAP AsBitmap(HGCANVAS canvas) { return GetBitmap(canvas); }
 
+// The operation word of a surface, or the canvas's own.
+template <class Handle>
+DWORD FilterOf(Handle handle) {
+    DWORD filter = 0;
+    if constexpr (std::is_same_v<Handle, HGCANVAS>)
+        EXPECT_EQ(GetCanvasFilter(handle, &filter), 1);
+    else
+        EXPECT_EQ(GetBitmapFilter(AsBitmap(handle), &filter), 1);
+    return filter;
+}
+
 // A lock for the length of a test; pixels are read and written as numbers of the surface's depth.
 class Pixels {
 public:

@@ -78,9 +78,7 @@ TEST(CopyBitmap, CopiesAnAreaBetweenFormats) {
                     const int column = x - placed.left + taken.left, row = y - placed.top + taken.top;
                     return alike ? pixels.Get(column, row) : pixels.Color(column, row);
                 }));
-                DWORD filter = 1;
-                GetBitmapFilter(dst.get(), &filter);
-                EXPECT_EQ(filter, copies ? 0x02123456U : 0U);
+                EXPECT_EQ(FilterOf(dst.get()), copies ? 0x02123456U : 0U);
                 // The palette comes along, but never into the ramp.
                 EXPECT_EQ(PaletteOf(dst), to.colorCount != 0 && copies ? PaletteOf(src) : palette);
             }

@@ -27,9 +27,7 @@ TEST(BitmapHandle, IsADibSectionOfThePicture) {
         EXPECT_EQ(section.dsBm.bmBits, pixels->bmBits);
         EXPECT_EQ(section.dsBmih.biBitCount, 32);
         EXPECT_TRUE(pixels->bmBitsPixel == 32 && pixels->colorCount == 0 && !pixels->palette);
-        DWORD filter = 0;
-        GetBitmapFilter(bitmap.get(), &filter);
-        EXPECT_EQ(filter, 0x01000000U);
+        EXPECT_EQ(FilterOf(bitmap.get()), 0x01000000U);
 
         Fill(bitmap.get(), Pattern{2});
         EXPECT_EQ(GetBitmapHandle(bitmap.get()), handle);

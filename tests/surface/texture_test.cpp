@@ -62,9 +62,7 @@ TEST(Texture, TakesOverABitmapsPixels) {
         const OwnedTexture texture(BitmapToTexture(bitmap.release()));
         EXPECT_EQ(Pixels(texture.get())->bmBits, bits) << "moved, not copied";
         EXPECT_TRUE(Shows(texture.get(), Pattern{}));
-        DWORD filter = 0;
-        GetTextureFilter(texture.get(), &filter);
-        EXPECT_EQ(filter, 0x01000000U);
+        EXPECT_EQ(FilterOf(texture.get()), 0x01000000U);
         EXPECT_EQ(GetTextureSliceCount(texture.get()), 0);
         const HBITMAP now = GetTextureHandle(texture.get());
         EXPECT_NE(now, nullptr) << "it owns the pixels and may convert them";
@@ -77,9 +75,7 @@ TEST(Texture, BorrowedFromACanvasKeepsTheOldPixelsWhenTheCanvasConvertsItsOwn) {
     SetCanvasFilter(canvas.get(), 0x06000000);
     OwnedTexture view(GetTexture(canvas.get()));
     ASSERT_TRUE(view);
-    DWORD filter = 0;
-    GetTextureFilter(view.get(), &filter);
-    EXPECT_EQ(filter, 0x06000000U);
+    EXPECT_EQ(FilterOf(view.get()), 0x06000000U);
     Fill(canvas.get(), Pattern{1});
     EXPECT_TRUE(Shows(view.get(), Pattern{1})) << "one store";
     EXPECT_EQ(GetTextureHandle(view.get()), nullptr) << "not its own to convert";
