@@ -212,14 +212,15 @@ void Arguments::Fill(TextureDrawParams& params) {
 }
 
 bool Arguments::FencesAreIntact() const {
-    return std::all_of(fences.begin(), fences.begin() + places, [](const Fence& fence) { return fence.IsIntact(); });
+    return std::all_of(pool.fences.begin(), pool.fences.begin() + places,
+                       [](const Fence& fence) { return fence.IsIntact(); });
 }
 
 std::uint64_t Arguments::Checksum() const {
     std::uint64_t sum = 0;
     for (std::size_t i = 0; i < places; ++i)
         if (images >> i & 1)
-            for (const std::byte byte : fences[i].Placed()) sum = Mixed(sum, std::to_integer<std::uint64_t>(byte));
+            for (const std::byte byte : pool.fences[i].Placed()) sum = Mixed(sum, std::to_integer<std::uint64_t>(byte));
     return sum;
 }
 

@@ -7,7 +7,6 @@
 #include <string_view>
 #include <type_traits>
 
-#include "calls/fence.h"
 #include "calls/pool.h"
 
 namespace calls {
@@ -27,8 +26,8 @@ struct Wishes {
 
 class Arguments {
 public:
-    Arguments(Pool& objects, Fences& memory, std::string_view exportName, Random& numbers, const Wishes& wanted)
-        : pool(objects), fences(memory), callee(exportName), random(numbers), wishes(wanted), text(exportName) {}
+    Arguments(Pool& objects, std::string_view exportName, Random numbers, const Wishes& wanted = {})
+        : pool(objects), callee(exportName), random(numbers), wishes(wanted), text(exportName) {}
 
     // The argument for the next parameter, which has this name.
     template <class T>
@@ -137,7 +136,7 @@ private:
     void* BlurredBits();
     // Random bytes.
     std::byte* PlaceImage(std::int64_t bytes);
-    std::byte* Place(std::size_t bytes) { return fences[places++].Place(bytes); }
+    std::byte* Place(std::size_t bytes) { return pool.fences[places++].Place(bytes); }
 
     template <class T>
     void Note(const T& argument) {
@@ -162,9 +161,8 @@ private:
     }
 
     Pool& pool;
-    Fences& fences;
     const std::string_view callee;
-    Random& random;
+    Random random;
     const Wishes wishes;
 
     int parameter = -1;

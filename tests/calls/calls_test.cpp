@@ -1,17 +1,18 @@
-// Every export as a random call. Besides the tests there are four modes of this program:
+// Every export as a random call. Besides the tests there are three modes of this program:
 //   call_tests --seed N [--calls I,J,K...]   makes the calls of a sequence, or some of them, and prints each one before
 //   call_tests --seeds FIRST END             runs the sequences of several seeds
-//   call_tests --edge N, --edges FIRST END   calls exports, by their places in the table, with edge rectangles
+//   call_tests --edges FIRST END             calls exports, by their places in the table, with edge rectangles
 // After --states each sequence is run under processors in several states.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <iostream>
 #include <sstream>
+#include <thread>
 
-#include "calls/edges.h"
 #include "calls/minimizer.h"
 #include "calls/sequence.h"
-#include "calls/table.h"
+#include "support/allocations.h"
 
 namespace {
 
@@ -35,25 +36,6 @@ TEST(Calls, TakeAnyRectangle) {
         ASSERT_EQ(FaultOfExports(first, std::min(first + ofProcess, exports)), "");
 }
 
-int RunEdges(int first, int end, bool trace) {
-    for (int place = first; place < end; ++place)
-        if (const std::string fault = FaultOfEdges(place, trace); !fault.empty()) {
-            std::cout << fault << std::endl;
-            return 1;
-        }
-    return 0;
-}
-
-int RunSeeds(int first, int end, const Replay& replay, bool allStates) {
-    for (int seed = first; seed < end; ++seed) {
-        const SequenceResult result = allStates ? RunSequenceInAllStates(seed, replay) : RunSequence(seed, replay);
-        if (result.fault.empty()) continue;
-        std::cout << "seed " << seed << ", " << result.fault << std::endl;
-        return 1;
-    }
-    return 0;
-}
-
 std::set<int> Numbers(const std::string& list) {
     std::set<int> numbers;
     std::istringstream stream(list);
@@ -61,26 +43,41 @@ std::set<int> Numbers(const std::string& list) {
     return numbers;
 }
 
+// Prints the first fault for a number of [first, end), after a line with that number. False: there is none.
+bool HasFault(const char* what, int first, int end, const std::function<std::string(int)>& faultOf) {
+    Allocations::doing = CurrentCall;
+    std::thread([] {
+        Sleep(300'000);
+        std::cout << "hangs in " << CurrentCall() << std::endl;
+        TerminateProcess(GetCurrentProcess(), 2);
+    }).detach();
+    for (int i = first; i < end; ++i) {
+        std::cout << what << i << std::endl;
+        const std::string fault = faultOf(i);
+        if (fault.empty()) continue;
+        std::cout << fault << std::endl;
+        return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     std::vector<std::string> words(argv + 1, argv + argc);
-    const bool allStates = !words.empty() && words[0] == inAllStates;
-    if (allStates) words.erase(words.begin());
-    const bool isSeed = words.size() >= 2 && words[0] == "--seed";
-    if (isSeed || (words.size() == 3 && words[0] == "--seeds")) {
-        ReportCrashes();
-        const int first = std::stoi(words[1]), end = isSeed ? first + 1 : std::stoi(words[2]);
-        Replay replay;
-        replay.trace = isSeed;
-        if (isSeed && words.size() == 4) replay.only = Numbers(words[3]);
-        return RunSeeds(first, end, replay, allStates);
-    }
-    const bool isEdge = words.size() == 2 && words[0] == "--edge";
-    if (isEdge || (words.size() == 3 && words[0] == "--edges")) {
-        ReportCrashes();
-        const int first = std::stoi(words[1]), end = isEdge ? first + 1 : std::stoi(words[2]);
-        return RunEdges(first, end, isEdge);
+    const auto take = [&words](const char* word) {
+        return !words.empty() && words[0] == word && words.erase(words.begin()) != words.end();
+    };
+    if (take(intoLog)) std::freopen(LogPath().c_str(), "w", stdout);
+    Replay replay;
+    replay.allStates = take(inAllStates);
+    const std::string mode = words.size() < 2 ? "" : words[0];
+    if (mode == "--edges") return HasFault("export ", std::stoi(words[1]), std::stoi(words.at(2)), FaultOfEdges);
+    replay.trace = mode == "--seed";
+    if (replay.trace || mode == "--seeds") {
+        if (replay.trace && words.size() == 4) replay.only = Numbers(words[3]);
+        const int first = std::stoi(words[1]), end = replay.trace ? first + 1 : std::stoi(words.at(2));
+        return HasFault("seed ", first, end, [&](int seed) { return FaultOfSequence(seed, replay); });
     }
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

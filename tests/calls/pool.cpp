@@ -235,15 +235,20 @@ std::string Pool::Check() const {
     return {};
 }
 
-std::uint64_t Pool::Checksum() const {
-    std::uint64_t sum = 0;
+std::vector<std::byte> Pool::Pixels() const {
+    std::vector<std::byte> pixels;
     for (const Object& object : objects) {
         if (!object.handle || object.kind > Kind::canvas || !object.Surface()) continue;
         const BitmapLockInfo image = Locked(object.Surface());
         for (int y = 0; image.bmBits && y < image.bmHeight; ++y)
-            for (std::size_t x = 0; x < RowBytes(image); ++x)
-                sum = Mixed(sum, std::to_integer<std::uint64_t>(Row(image, y)[x]));
+            pixels.insert(pixels.end(), Row(image, y), Row(image, y) + RowBytes(image));
     }
+    return pixels;
+}
+
+std::uint64_t Pool::Checksum() const {
+    std::uint64_t sum = 0;
+    for (const std::byte byte : Pixels()) sum = Mixed(sum, std::to_integer<std::uint64_t>(byte));
     return sum;
 }
 

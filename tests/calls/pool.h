@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "calls/fence.h"
 #include "support/gdi.h"
 #include "support/random.h"
 
@@ -68,10 +69,13 @@ public:
 
     // What is wrong with the objects; empty, nothing.
     std::string Check() const;
-    // Of all pixels that can be locked.
+    // Of all that can be locked.
+    std::vector<std::byte> Pixels() const;
     std::uint64_t Checksum() const;
     // "canvas2", or the address in hexadecimal digits.
     std::string NameOf(const void* handle) const;
+
+    Fences fences;  // for the records and images of a call
 
 private:
     void Delete(Object& object);

@@ -1,82 +1,101 @@
 #include "calls/sequence.h"
 
+#include <windows.h>
+
 #include <iostream>
 
-#include "calls/stopwatch.h"
-#include "calls/table.h"
 #include "support/allocations.h"
 
 namespace calls {
 
 namespace {
 
-std::string FaultOf(const Call& call, const Pool& pool, const Stopwatch& time) {
-    if (call.broken) return std::string("changed the processor's state: ") + call.broken;
-    if (!call.arguments.FencesAreIntact()) return "wrote before the host's memory";
-    if (time.SaysTooLong()) return "took more than five seconds";
-    return pool.Check();
+// The processor's, whatever other programs do.
+double Seconds() {
+    FILETIME created, ended, kernel, user;
+    GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
+    const auto seconds = [](const FILETIME& time) {
+        return (static_cast<double>(time.dwHighDateTime) * 4294967296 + time.dwLowDateTime) * 1e-7;
+    };
+    return seconds(kernel) + seconds(user);
 }
 
-SequenceResult RunOnce(int seed, const Replay& replay) {
-    static Fences fences;
-    SequenceResult result;
+// Runs calls, under a guarding allocator, until one is at fault.
+std::string FaultOf(const std::function<std::string()>& run) {
+    static Allocations allocations(true);
+    std::string fault;
+    const std::string left = allocations.LeftBy([&] {
+        const double start = Seconds();
+        fault = run();
+        if (fault.empty() && Seconds() - start > 5) fault = "took more than five seconds";
+    });
+    return fault.empty() && !left.empty() ? "not given back: " + left : fault;
+}
+
+const Call* current = nullptr;
+
+std::string FaultOf(Call& call, const Pool& pool) {
+    current = &call;
+    call.Run();
+    current = nullptr;
+    return call.Fault(pool);
+}
+
+std::string Run(int seed, const Replay& replay, const Processor* state, std::uint64_t& checksum) {
     Pool pool;
-    Stopwatch time(5);
+    checksum = 0;
     for (int i = 0; i < callsOfSequence; ++i) {
         if (replay.only && !replay.only->contains(i)) continue;
         Random random(seed * callsOfSequence + i);
         const Export& callee = Exports()[random.Word() % Exports().size()];
-        Call call{callee, Arguments(pool, fences, callee.name, random, {replay.absurd})};
-        call.processor.stackResidue = random.Below(4) * 4;
-        if (replay.processor) call.processor = *replay.processor;
-        if (replay.trace) call.announce = [&](const std::string& text) { std::cout << i << ": " << text << std::endl; };
-        time.Restart();
-        callee.run(call);
-        const std::string fault = FaultOf(call, pool, time);
-        if (!fault.empty()) {
-            result.fault = "call " + std::to_string(i) + ", " + call.arguments.Text() + ": " + fault;
-            return result;
-        }
-        result.checksum = Mixed(Mixed(result.checksum, call.checksum), call.arguments.Checksum());
+        const Processor usual{random.Below(4) * 4};
+        Call call(callee, pool, random, {state ? Absurd::numbers : Absurd::anything});
+        call.processor = state ? *state : usual;
+        if (replay.trace) call.before = [&] { std::cout << i << ": " << call.arguments.Text() << std::endl; };
+        if (const std::string fault = FaultOf(call, pool); !fault.empty())
+            return "call " + std::to_string(i) + ", " + fault;
+        checksum = Mixed(Mixed(checksum, call.result), call.arguments.Checksum());
     }
-    result.checksum = Mixed(result.checksum, pool.Checksum());
-    return result;
+    checksum = Mixed(checksum, pool.Checksum());
+    return {};
 }
 
 }  // namespace
 
-SequenceResult RunSequence(int seed, const Replay& replay) {
-    static Allocations allocations(true);
-    SequenceResult result;
-    std::string left;
-    // What the backend keeps for later draws it does not keep once more when they are repeated.
-    for (int attempt = 0; attempt < 3 && result.fault.empty(); ++attempt) {
-        allocations.Restart();
-        result = RunOnce(seed, replay);
-        left = allocations.Outstanding();
-        if (left.empty()) return result;
-    }
-    if (result.fault.empty()) result.fault = "not given back: " + left;
-    return result;
-}
+std::string CurrentCall() { return current ? current->arguments.Text() : ""; }
 
-SequenceResult RunSequenceInAllStates(int seed, const Replay& replay) {
+std::string FaultOfSequence(int seed, const Replay& replay) {
+    std::uint64_t checksum, usual = 0;
+    if (!replay.allStates) return FaultOf([&] { return Run(seed, replay, nullptr, checksum); });
     // Precision of 64, 24 and 53 bits; then invalid numbers, divisions by 0 and overflows are not masked, as by some hosts'
     // runtimes. GDI's own arithmetic cannot stand that with absurd integers.
     constexpr Processor states[] = {{0}, {4, 0x007F}, {8, 0x027F}, {12, 0x0372, 0x1900}};
-    std::optional<SequenceResult> usual;
     for (const Processor& state : states) {
-        Replay inState = replay;
-        inState.processor = state;
-        inState.absurd = Absurd::numbers;
-        SequenceResult result = RunSequence(seed, inState);
-        if (!usual) usual = result;
-        if (result.fault.empty() && result.checksum != usual->checksum) result.fault = "other results";
-        if (result.fault.empty()) continue;
-        result.fault += " (state " + std::to_string(&state - states) + ")";
-        return result;
+        std::string fault = FaultOf([&] { return Run(seed, replay, &state, checksum); });
+        if (&state == states) usual = checksum;
+        if (fault.empty() && checksum != usual) fault = "other results";
+        if (!fault.empty()) return fault + " (state " + std::to_string(&state - states) + ")";
     }
-    return *usual;
+    return {};
+}
+
+std::string FaultOfEdges(int place) {
+    const Export& callee = Exports()[static_cast<std::size_t>(place)];
+    for (int parameter = 0; parameter < static_cast<int>(callee.isRect.size()); ++parameter) {
+        if (!callee.isRect[static_cast<std::size_t>(parameter)]) continue;
+        const std::string fault = FaultOf([&]() -> std::string {
+            Pool pool;
+            for (int number = 0; number < edgeRects; ++number) {
+                Random random(number);
+                Call call(callee, pool, random, {Absurd::nothing, parameter, number});
+                if (const std::string wrong = FaultOf(call, pool); !wrong.empty()) return wrong;
+                if (number % edges == 0) pool.ChangeOperations(random);
+            }
+            return {};
+        });
+        if (!fault.empty()) return fault;
+    }
+    return {};
 }
 
 }  // namespace calls

@@ -1,21 +1,29 @@
-// Every scenario and drawing with its first, second... allocation failing, until none fails any more: alone, or with all
-// after it. Blocks lie before fences meanwhile, so that a use of what is not there, or no longer, ends the program.
+// Every export, and the scenarios, with the first, second... allocation failing, until none fails any more: alone, or with
+// all after it. Blocks lie before fences meanwhile, so that a use of what is not there, or no longer, ends the program.
 #include <algorithm>
 
+#include "calls/table.h"
 #include "failures/scenarios.h"
 #include "support/allocations.h"
 #include "vek/vekgraphic.h"
 
 namespace failures {
 
+using namespace calls;
+
 namespace {
 
-// Whether every channel of a pixel is on its way from one to another: outlines may be drawn in part.
-bool IsBetween(DWORD pixel, DWORD from, DWORD to) {
-    for (int shift = 0; shift < 32; shift += 8) {
-        const auto channel = [shift](DWORD word) { return static_cast<int>(word >> shift & 0xFF); };
-        const auto [low, high] = std::minmax({channel(from), channel(to)});
-        if (channel(pixel) < low - 1 || channel(pixel) > high + 1) return false;
+constexpr int seeds = 12;  // calls of each export
+
+// Whether all pixels are as one or the other, or every byte on its way: outlines may be drawn in part.
+bool IsBetween(const std::vector<std::byte>& got, const std::vector<std::byte>& from,
+               const std::vector<std::byte>& to) {
+    if (got == from || got == to) return true;
+    if (got.size() != from.size() || got.size() != to.size()) return false;
+    for (std::size_t i = 0; i < got.size(); ++i) {
+        const auto [low, high] = std::minmax(std::to_integer<int>(from[i]), std::to_integer<int>(to[i]));
+        const int byte = std::to_integer<int>(got[i]);
+        if (byte < low - 1 || byte > high + 1) return false;
     }
     return true;
 }
@@ -32,82 +40,92 @@ protected:
         allocations.FailAt(0);
     }
 
-    // Calls run with failing allocations, and check(failed) after each call and with nothing failing any more.
-    template <class Run, class Check>
-    void Sweep(Run run, Check check) {
+    // run(k, howMany) checks what happens while allocations fail, and returns whether any did.
+    template <class Run>
+    void Sweep(Run run) {
         for (const int howMany : {1, Allocations::allLater}) {
-            SCOPED_TRACE(howMany == 1 ? "alone" : "with all later ones");
             bool failed = true;
             for (int k = 1; failed && !HasFailure(); ++k) {
-                SCOPED_TRACE("allocation " + std::to_string(k) + " fails");
-                stage.Reset();
-                allocations.FailAt(k, howMany);
-                run();
-                failed = allocations.HasFailed();
-                allocations.FailAt(0);
-                check(failed);
-                stage.Reset();
+                SCOPED_TRACE("allocation " + std::to_string(k) + " fails, " +
+                             (howMany == 1 ? "alone" : "and all later"));
+                EXPECT_EQ(allocations.LeftBy([&] { failed = run(k, howMany); }), "");
             }
         }
     }
 
+    struct Outcome {
+        std::vector<std::byte> before, after;
+        std::uint64_t result = 0, again = 0;
+        bool failed = false, halfDone = false;
+    };
+    // A call on a new pool whose objects are set up at random, and the same once more.
+    Outcome Make(const Export& callee, int seed, int k, int howMany) {
+        Outcome outcome;
+        Pool pool;
+        Random random(seed);
+        for (int i = 0; i < 500; ++i) {
+            const Export& setter = Exports()[random.Word() % Exports().size()];
+            if (std::string_view(setter.name).starts_with("Set"))
+                Call(setter, pool, Random(i + seed * 1000), {Absurd::nothing}).Run();
+        }
+        Call call(callee, pool, random, {Absurd::nothing}), again = call;
+        call.before = [&] {
+            outcome.before = pool.Pixels();
+            allocations.FailAt(k, howMany);
+        };
+        call.after = [&] {
+            outcome.failed = allocations.HasFailed();
+            allocations.FailAt(0);
+        };
+        call.Run();
+        outcome.result = call.result;
+        outcome.after = pool.Pixels();
+        again.Run();
+        outcome.again = again.result;
+        const std::string fault = again.Fault(pool), name = callee.name;
+        // A conversion that fails loses the pixels, the soft effects end with the step that finds no memory, and a focus
+        // frame without a pen of its own is black.
+        outcome.halfDone = outcome.failed && (fault.ends_with("has another size") || name.starts_with("Light") ||
+                                              name.starts_with("Dark") || name == "GeoRectFocusEx");
+        EXPECT_TRUE(outcome.halfDone || fault.empty()) << fault;
+        return outcome;
+    }
+
     Allocations allocations{true};
-    Stage stage;
 };
 
 }  // namespace
 
 TEST_F(AllocationFailures, OfScenariosLeakNothing) {
     for (const Scenario& scenario : Scenarios()) {
-        if (HasFailure()) return;
         SCOPED_TRACE(scenario.name);
-        const auto again = [&] {
-            stage.Reset();
-            EXPECT_TRUE(scenario.run(stage));
-            stage.Reset();
-        };
-        for (int i = 0; i < 20; ++i) again();
-        allocations.Restart();
-        bool done = false;
-        Sweep([&] { done = scenario.run(stage); },
-              [&](bool failed) {
-                  EXPECT_TRUE(failed || done);
-                  again();
-                  EXPECT_EQ(allocations.Outstanding(), "");
-              });
+        Sweep([&](int k, int howMany) {
+            allocations.FailAt(k, howMany);
+            const bool done = scenario.run();
+            const bool failed = allocations.HasFailed();
+            allocations.FailAt(0);
+            EXPECT_TRUE(failed || done);
+            EXPECT_TRUE(scenario.run()) << "the next time";
+            return failed;
+        });
     }
 }
 
 // What failed has drawn a part or nothing, and does well the next time.
-TEST_F(AllocationFailures, OfDrawingsSpoilNoPixels) {
-    const std::vector<DWORD> before = stage.Pixels();
-    for (const Drawing& drawing : Drawings()) {
-        for (std::size_t i = 0; i < Stage::canvasCount; ++i) {
-            if (HasFailure()) return;
-            SCOPED_TRACE(drawing.name + std::string(" on a canvas of kind ") + Stage::canvasNames[i]);
-            int result = 0;
-            const auto draw = [&] { result = drawing.draw(stage.Canvas(i), stage); };
-            const auto drawn = [&] {
-                stage.Reset();
-                draw();
-                return stage.Pixels();
-            };
-            const std::vector<DWORD> after = drawn();
-            const int wantedResult = result;
-            for (int n = 0; n < 20; ++n) drawn();
-            allocations.Restart();
-            Sweep(draw, [&](bool failed) {
-                EXPECT_TRUE(result == wantedResult || (failed && result == 0));
-                const std::vector<DWORD> got = stage.Pixels();
-                for (std::size_t n = 0; n < got.size() && got.size() == before.size() && !HasFailure(); ++n)
-                    EXPECT_TRUE(got[n] == after[n] || (failed && IsBetween(got[n], before[n], after[n])))
-                        << "result " << result << std::hex << ", pixel " << n << ": " << before[n] << ", " << got[n]
-                        << ", " << after[n];
-                EXPECT_TRUE(drawn() == after) << "the next time";
-                EXPECT_EQ(allocations.Outstanding(), "");
+TEST_F(AllocationFailures, OfExportsSpoilNoPixels) {
+    for (const Export& callee : Exports())
+        for (int seed = 0; seed < seeds && !HasFailure(); ++seed) {
+            SCOPED_TRACE(callee.name + std::string(", seed ") + std::to_string(seed));
+            const Outcome wanted = Make(callee, seed, 0, 1);
+            Sweep([&](int k, int howMany) {
+                const Outcome got = Make(callee, seed, k, howMany);
+                if (got.halfDone) return true;
+                EXPECT_TRUE(got.result == wanted.result || (got.failed && got.result == 0)) << got.result;
+                EXPECT_EQ(got.again, wanted.again) << "the next time";
+                EXPECT_TRUE(got.before == wanted.before && IsBetween(got.after, wanted.before, wanted.after));
+                return got.failed;
             });
         }
-    }
 }
 
 }  // namespace failures

@@ -1,38 +1,47 @@
-// Scenarios and drawings a great many times. Whatever stays behind is counted, and handles end at 65536.
-#include <algorithm>
-
+// Calls and scenarios a great many times. Whatever stays behind is counted, and handles end at 65536.
+#include "calls/table.h"
 #include "failures/scenarios.h"
 #include "support/allocations.h"
 
 namespace failures {
 
+using namespace calls;
+
 namespace {
 
-constexpr int warmUp = 300;  // the backend has what it keeps by then
-
+// The backend has what it keeps after some of the rounds.
 template <class Round>
-void Cycle(const char* name, int cycles, Round round) {
+void Cycle(const char* name, int rounds, Round round) {
     SCOPED_TRACE(name);
     Allocations allocations;
-    for (int i = 0; i < cycles && !testing::Test::HasFailure(); ++i) {
-        if (i == std::min(warmUp, cycles / 4)) allocations.Restart();
+    for (int i = 0; i < rounds && !testing::Test::HasFailure(); ++i) {
+        if (i == std::min(rounds / 4, 300)) allocations.Restart();
         EXPECT_TRUE(round(i)) << "round " << i;
     }
     EXPECT_EQ(allocations.Outstanding(), "");
 }
 
+// Every one of some exports so many times, in turn, on one pool after another.
+void CycleOf(const char* name, int calls, bool (*isWanted)(const Export& callee)) {
+    std::vector<const Export*> callees;
+    for (const Export& callee : Exports())
+        if (isWanted(callee)) callees.push_back(&callee);
+    constexpr int callsOfPool = 100;
+    Cycle(name, calls / callsOfPool, [&](int) {
+        Pool pool;
+        for (int i = 0; i < callsOfPool; ++i)
+            for (const Export* callee : callees) Call(*callee, pool, Random(i), {Absurd::nothing}).Run();
+        return pool.Check().empty();
+    });
+}
+
 }  // namespace
 
 TEST(Leaks, NothingStaysBehindAfterLongCycles) {
-    Stage stage;
     for (const Scenario& scenario : Scenarios())
-        Cycle(scenario.name, scenario.cycles, [&](int) { return scenario.run(stage); });
-    for (std::size_t kind = 0; kind < Stage::canvasCount; ++kind)
-        Cycle(Stage::canvasNames[kind], kind == 0 ? 70000 : 33000, [&](int i) {
-            const Drawing& drawing = Drawings()[static_cast<std::size_t>(i) % Drawings().size()];
-            const host::OwnedCanvas canvas = stage.NewCanvas(kind);
-            return canvas && drawing.draw(canvas.get(), stage) >= 0;
-        });
+        Cycle(scenario.name, scenario.cycles, [&](int) { return scenario.run(); });
+    CycleOf("exports that return handles", 70000, [](const Export& callee) { return callee.returnsHandle; });
+    CycleOf("all exports", 5000, [](const Export&) { return true; });
 }
 
 }  // namespace failures

@@ -1,26 +1,16 @@
-// What hosts do, as functions for machines that repeat it under one condition or another.
+// What no single call of an export reaches: several calls in a row, large and dense shapes, the backend's own interface.
 #pragma once
 
 #include <span>
-
-#include "failures/stage.h"
 
 namespace failures {
 
 // Makes, uses and ends objects. True: all of it worked.
 struct Scenario {
     const char* name;
-    bool (*run)(Stage& stage);
-    int cycles = 70000;  // in tests of leaks
+    bool (*run)();
+    int cycles;  // in tests of leaks
 };
-
-// One call that draws on a canvas. Its result is the call's.
-struct Drawing {
-    const char* name;
-    int (*draw)(HGCANVAS canvas, Stage& stage);
-};
-
 std::span<const Scenario> Scenarios();
-std::span<const Drawing> Drawings();
 
 }  // namespace failures

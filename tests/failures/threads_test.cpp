@@ -1,47 +1,47 @@
-// Sixteen threads at once, each on surfaces of its own, draw what one draws alone.
-#include <numeric>
+// Sixteen threads at once, each on objects of its own, draw what one draws alone.
 #include <thread>
 
-#include "failures/scenarios.h"
+#include "calls/table.h"
+#include "support/allocations.h"
 
 namespace failures {
+
+using namespace calls;
 
 namespace {
 
 constexpr int threads = 16, rounds = 8192;
 
-DWORD Sum(const Stage& stage) {
-    const std::vector<DWORD> pixels = stage.Pixels();
-    return std::accumulate(pixels.begin(), pixels.end(), DWORD{0},
-                           [](DWORD sum, DWORD pixel) { return sum * 16777619 + pixel; });
-}
-
-// Every drawing on one canvas after another, and the quick scenarios in between; the sum of what is seen and returned.
-DWORD Play(int seed) {
-    Stage stage;
-    const auto scenarios = Scenarios();
-    const auto drawings = Drawings();
-    DWORD sum = 0;
+// Random calls of all exports but the two that change a setting of the whole process; the sum of what they return and of
+// all pixels.
+std::uint64_t Play(Pool& pool, int seed) {
+    std::uint64_t sum = 0;
     for (int i = 0; i < rounds; ++i) {
-        const auto n = static_cast<std::size_t>(i + seed);
-        if (i % 256 == 0) {
-            sum = sum * 31 + Sum(stage);
-            stage.Reset();
-        }
-        const Scenario& scenario = scenarios[n % scenarios.size()];
-        if (i % 8 == 0 && scenario.cycles >= 33000) sum += scenario.run(stage);
-        drawings[n % drawings.size()].draw(stage.Canvas(n / drawings.size() % Stage::canvasCount), stage);
+        Random random(seed * rounds + i);
+        const Export& callee = Exports()[random.Word() % Exports().size()];
+        const std::string_view name = callee.name;
+        if (name == "RegisterD2DResoureMgr" || name == "SetStretchKernelMode") continue;
+        Call call(callee, pool, random, {Absurd::nothing});
+        call.processor.reset();
+        call.Run();
+        sum = Mixed(sum, call.result);
+        if (i % 256 == 0) sum = Mixed(sum, pool.Checksum());
     }
-    return sum * 31 + Sum(stage);
+    return sum;
 }
 
 }  // namespace
 
 TEST(Threads, DrawTheSameSideBySide) {
-    DWORD wanted[threads], got[threads];
-    for (int i = 0; i < threads; ++i) wanted[i] = Play(i);
+    const Allocations fenced(true);  // and all undefined pixels are the same
+    std::uint64_t wanted[threads], got[threads];
+    for (int i = 0; i < threads; ++i) {
+        Pool pool;
+        wanted[i] = Play(pool, i);
+    }
+    Pool pools[threads];
     std::vector<std::thread> running;
-    for (int i = 0; i < threads; ++i) running.emplace_back([&got, i] { got[i] = Play(i); });
+    for (int i = 0; i < threads; ++i) running.emplace_back([&, i] { got[i] = Play(pools[i], i); });
     for (std::thread& each : running) each.join();
     for (int i = 0; i < threads; ++i) EXPECT_EQ(got[i], wanted[i]) << "thread " << i;
 }

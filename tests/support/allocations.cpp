@@ -76,9 +76,9 @@ void FreeFencedBlock(Ledger& books, void* block, const Block& was) {
     auto* const end = reinterpret_cast<std::byte*>(pageEnd * host::pageSize);
     const auto untouched = [](std::byte byte) { return byte == filler; };
     if (!std::all_of(end - was.pages * host::pageSize, bytes, untouched)) {
-        std::fprintf(stderr, "written before a block of %zu bytes\n", was.size);
-        std::fflush(stderr);
-        TerminateProcess(GetCurrentProcess(), 7);
+        std::printf("written before a block of %zu bytes\n", was.size);
+        std::fflush(stdout);
+        std::_Exit(7);
     }
     books.slots.GiveBack(end, was.pages);
 }
@@ -265,8 +265,10 @@ LONG WINAPI Report(EXCEPTION_POINTERS* exception) {
     GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT, code,
                        &module);
     GetModuleFileNameA(module, name, MAX_PATH);
-    std::fprintf(stderr, "exception 0x%08lX at %s + 0x%zX\n", record.ExceptionCode, name,
-                 static_cast<std::size_t>(code - reinterpret_cast<const char*>(module)));
+    std::printf("exception 0x%08lX at %s + 0x%zX\n%s\n", record.ExceptionCode, name,
+                static_cast<std::size_t>(code - reinterpret_cast<const char*>(module)),
+                Allocations::doing ? Allocations::doing().c_str() : "");
+    std::fflush(stdout);
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
@@ -297,6 +299,16 @@ std::string Allocations::Outstanding() const {
         if (const int more = now[i] - before[i])
             text += (text.empty() ? "" : ", ") + std::to_string(more) + " " + names[i];
     return text;
+}
+
+std::string Allocations::LeftBy(const std::function<void()>& run) {
+    std::string left;
+    for (int attempt = 0; attempt == 0 || (attempt < 3 && !left.empty()); ++attempt) {
+        Restart();
+        run();
+        left = Outstanding();
+    }
+    return left;
 }
 
 void Allocations::FailAt(int k, int howMany) {

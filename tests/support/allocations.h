@@ -5,6 +5,7 @@
 #include <array>
 #include <climits>
 #include <cstddef>
+#include <functional>
 #include <string>
 
 // One at a time. What is allocated while it lives may be freed later.
@@ -20,11 +21,16 @@ public:
     // blocks of its own for the next draws, so that a start comes best after a first round.
     std::string Outstanding() const;
     void Restart();
+    // How much a run leaves behind: what the backend keeps it does not keep once more when the run is repeated.
+    std::string LeftBy(const std::function<void()>& run);
 
     // The k-th allocation from now fails as it does when memory is short, or several from there on. None for 0.
     static constexpr int allLater = INT_MAX;
     void FailAt(int k, int howMany = 1);
     bool HasFailed() const;
+
+    // What the program is doing, for the report of a crash on fenced memory; may be null.
+    static inline std::string (*doing)() = nullptr;
 
     enum class Kind {
         block,
