@@ -72,7 +72,7 @@ void RunInput(Input& input) {
     if (drawsNothing && (slot.takesPlacement || !slot.IsScaled())) {
         job.dst.bmHeight = input.Flag() ? 0 : -3;
     } else if (asksModel && IsSmall(size) && IsSmall(sourceSize)) {
-        DrawByModel(MeaningOf(slot.slot), wantedJob);
+        DrawByModel(slot, wantedJob);
     } else {
         slot.run(set.packedWeights ? packedKernels : baselineKernels, wantedJob);
     }

@@ -41,9 +41,8 @@ void CheckSlot(const SlotCall& slot) {
                                                          ReadPixelBytes(src, 0, y), argument(z)});
                          }});
     }
-    const SlotMeaning meaning = MeaningOf(slot.slot);
     CheckAllBytes(ThirdOf(slot.op), forms, [&](std::uint32_t d, std::uint32_t s, std::uint32_t z) {
-        return ResultByModel(meaning, d, s, argument(z));
+        return ResultByModel(slot, d, s, argument(z));
     });
 }
 

@@ -17,33 +17,14 @@ using enum Rows;
 using enum Op;
 using namespace host;
 
-// clang-format off
-constexpr SlotMeaning meanings[] = {  // by columns
-    {  0,   2, nearest, copy},             { 41,  43, bilinear, constantAlpha},   { 72,  74, bilinear, copy},
-    {  3,   5, bilinear, copy},            { 44,  46, bilinear, destinationOver}, { 75,  75, solid, destinationOver},
-    {  6,   8, unscaled, copy},            { 47,  49, unscaled, multiply},        { 76,  78, nearest, copy},
-    {  9,  11, area, copy},                { 50,  52, unscaled, constantAlpha},   { 79,  81, bicubic, copy},
-    { 12,  14, bicubic, copy},             { 53,  55, bilinear, constantAlpha},   { 82,  84, nearest, colorKey},
-    { 15,  15, solid, mixColor},           { 56,  58, nearest, constantAlpha},    { 85,  87, unscaled, colorKey},
-    { 16,  16, unscaled, opaqueAlpha},     { 59,  59, solid, sourceOver},         { 88,  90, nearest, sourceOver},
-    { 17,  19, bilinear, multiply},        { 60,  60, unscaled, crossFade},       { 91,  91, solid, copy},
-    { 20,  22, area, copy},                { 61,  61, solid, makeOpaque},         { 92,  94, bicubic, sourceOver},
-    { 23,  25, nearest, constantAlpha},    { 62,  62, solid, multiply},           { 95,  95, nearest, crossFade},
-    { 26,  28, bilinear, sourceOver},      { 63,  63, solid, grayWash},           { 96,  98, unscaled, sourceOver},
-    { 29,  31, bicubic, sourceOver},       { 64,  66, bilinear, sourceOver},      { 99, 101, nearest, colorKey},
-    { 32,  34, unscaled, destinationOver}, { 67,  67, nearest, opaqueAlpha},      {102, 104, bicubic, constantAlpha},
-    { 35,  37, bilinear, multiply},        { 68,  68, solid, bitOr},              {105, 107, nearest, sourceOver},
-    { 38,  40, bilinear, destinationOver}, { 69,  71, bicubic, constantAlpha},
-};
-// clang-format on
-
-std::int64_t Stepped(std::int64_t sourceExtent, std::int64_t wholeExtent, std::int64_t position) {
-    const std::int64_t step = 65536 * sourceExtent / wholeExtent;
-    return position * step / 65536;
+std::uint32_t UnscaledSample(const BitmapLockInfo& src, const Placement&, std::int64_t x, std::int64_t y) {
+    return SourceColor(src, x, y);
 }
 
 std::uint32_t NearestSample(const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
-    return SourceColor(src, Stepped(src.bmWidth, whole.width, x), Stepped(src.bmHeight, whole.height, y));
+    const std::int64_t across = 65536 * std::int64_t{src.bmWidth} / whole.width;
+    const std::int64_t down = 65536 * std::int64_t{src.bmHeight} / whole.height;
+    return SourceColor(src, x * across / 65536, y * down / 65536);
 }
 
 std::int64_t FloorShift(std::int64_t value, int bits) {
@@ -118,24 +99,9 @@ std::uint32_t AreaSample(const BitmapLockInfo& src, const Placement& whole, std:
     return FromChannels([&](int i) { return sums[i] / (width * height); });
 }
 
-// The sample for column x and row y of the whole draw.
-std::uint32_t Sample(Rows rows, const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y) {
-    switch (rows) {
-        case unscaled:
-            return SourceColor(src, x, y);
-        case nearest:
-            return NearestSample(src, whole, x, y);
-        case bilinear:
-            return BilinearSample(src, whole, x, y);
-        case bicubic:
-            return BicubicSample(src, whole, x, y);
-        case area:
-            return AreaSample(src, whole, x, y);
-        case solid:
-            break;
-    }
-    throw std::logic_error("no sample");
-}
+// The sample for column x and row y of the whole draw, by Rows.
+using Sample = std::uint32_t (*)(const BitmapLockInfo& src, const Placement& whole, std::int64_t x, std::int64_t y);
+constexpr Sample samples[] = {nullptr, UnscaledSample, NearestSample, BilinearSample, BicubicSample, AreaSample};
 
 DWORD Scaled(DWORD pixel, int k) {
     return FromChannels([=](int i) { return Channel(pixel, i) * k / 256; });
@@ -184,10 +150,6 @@ std::uint32_t ResultByModel(const SlotMeaning& meaning, std::uint32_t d, std::ui
     throw std::logic_error("no operation");
 }
 
-SlotMeaning MeaningOf(int slot) {
-    return *std::ranges::find_if(meanings, [&](const SlotMeaning& m) { return m.first <= slot && slot <= m.last; });
-}
-
 std::uint32_t SourceColor(const BitmapLockInfo& src, std::int64_t x, std::int64_t y) {
     const std::uint32_t pixel = ReadPixelBytes(src, x, y);
     if (src.bmBitsPixel == 8) return static_cast<std::uint32_t>(src.palette[pixel]);
@@ -199,7 +161,8 @@ void DrawByModel(const SlotMeaning& meaning, const Job& job) {
         for (int x = 0; x < job.dst.bmWidth; ++x) {
             const std::int64_t column = job.placement.left + x, row = job.placement.top + y;
             const std::uint32_t sample =
-                meaning.rows == solid ? job.color : Sample(meaning.rows, job.src, job.placement, column, row);
+                meaning.rows == solid ? job.color
+                                      : samples[static_cast<int>(meaning.rows)](job.src, job.placement, column, row);
             WritePixelBytes(job.dst, x, y, ResultByModel(meaning, ReadPixelBytes(job.dst, x, y), sample, job.argument));
         }
 }

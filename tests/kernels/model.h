@@ -1,4 +1,4 @@
-// What every slot has to do, said a second time: one pixel and one byte at a time, by slot number. Slow on purpose.
+// What slots have to do, said a second time: one pixel and one byte at a time. Slow on purpose.
 #pragma once
 
 #include "raster/slots.h"
@@ -14,13 +14,11 @@ struct Job {
     std::uint32_t argument;  // opacity (its low byte), key or mix value
 };
 
-// Slots first to last: what they sample and what they do with it.
+// What a slot samples and what it does with it.
 struct SlotMeaning {
-    int first, last;
     Rows rows;
     Op op;
 };
-SlotMeaning MeaningOf(int slot);
 
 // Filters by the weights that the processor, or the one that is forced, has in memory.
 void DrawByModel(const SlotMeaning& meaning, const Job& job);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <ostream>
 #include <stdexcept>
 #include <tuple>
 #include <type_traits>
@@ -23,8 +22,6 @@ struct NamedKernels {
     const KernelSet* kernels;
     bool packedWeights;
     Level form = Level::generic;  // of the pixel primitives
-
-    friend void PrintTo(const NamedKernels& set, std::ostream* out) { *out << set.name; }
 };
 inline constexpr NamedKernels kernelSets[] = {
     {"baseline", &baselineKernels, false},
@@ -40,16 +37,13 @@ inline constexpr NamedKernels kernelSets[] = {
     {"routed_avx512", &routedKernels, true, Level::avx512},
 };
 
-struct SlotCall {
+struct SlotCall : SlotMeaning {
     int slot;
-    Rows rows;
-    Op op;
     int bitsPixel;  // of the source
     bool takesPlacement;
     std::function<int(const KernelSet& kernels, const Job& job)> run;
 
     bool IsScaled() const { return rows != Rows::solid && rows != Rows::unscaled; }
-    friend void PrintTo(const SlotCall& call, std::ostream* out) { *out << "slot " << call.slot; }
 };
 
 // Throws the name of what the kernel did not leave as it found it.
@@ -91,8 +85,10 @@ template <class Kernel>
 void AppendCalls(std::vector<SlotCall>& calls, Slot<Kernel> slot, int bitsPixel = 32) {
     constexpr bool placed =
         std::is_same_v<Kernel, Placed> || std::is_same_v<Kernel, PlacedAlpha> || std::is_same_v<Kernel, PlacedKey>;
-    calls.push_back({slot.index, slot.rows, slot.op, bitsPixel, placed,
-                     [slot](const KernelSet& kernels, const Job& job) { return Call(kernels.At(slot), job); }});
+    calls.push_back(
+        {{slot.rows, slot.op}, slot.index, bitsPixel, placed, [slot](const KernelSet& kernels, const Job& job) {
+             return Call(kernels.At(slot), job);
+         }});
 }
 
 template <class Kernel>

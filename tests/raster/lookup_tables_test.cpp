@@ -1,4 +1,4 @@
-// Stretch filter weights in both encodings, byte clamp and gray palette.
+// Stretch filter weights in both encodings.
 #include "raster/lookup_tables.h"
 
 #include <gtest/gtest.h>
@@ -42,14 +42,6 @@ TEST(StretchWeights, ChangeWithTheMode) {
         EXPECT_EQ(StretchFilterWeights[5], 12345) << "rebuilt although nothing changed";
     }
     BuildStretchFilterWeights();
-}
-
-TEST(LookupTables, ClampAndGrayPalette) {
-    const ClampBytes clamp = MakeClampTable();
-    for (int value = -256; value <= 511; ++value)
-        EXPECT_EQ(clamp[static_cast<std::size_t>(value + 256)], value < 0 ? 0 : value > 255 ? 255 : value) << value;
-    for (DWORD level = 0; level < 256; ++level)
-        EXPECT_EQ(GreyPalette[level], 0xFF000000 | level << 16 | level << 8 | level);
 }
 
 }  // namespace

