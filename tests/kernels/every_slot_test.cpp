@@ -1,6 +1,7 @@
 // The slow model against pixels worked by hand, and kernels against the model by zvcheck's numbered cases; zvcheck compares
 // the other forms with these.
 #include "checker.h"
+#include "raster/lookup_tables.h"
 #include "support/image.h"
 
 namespace zorvic {
@@ -64,6 +65,7 @@ TEST(EverySlot, DrawsWhatTheModelDraws) {
         if (!subject.packedWeights) FillTables({});
         CheckAgainstModel(subject);
     }
+    SetStretchKernelMode(1);
     InitKernelTable();
 }
 

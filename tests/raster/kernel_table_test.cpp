@@ -1,10 +1,9 @@
-// Which stage fills each slot of any processor's table, and what stands in the table of this one.
+// Which stage fills each slot of any processor's table, and the tables that come with it.
 #include "raster/kernel_table.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <string>
 
 #include "raster/lookup_tables.h"
@@ -38,12 +37,6 @@ TEST(KernelTable, EverySlotOfEveryProcessor) {
                 EXPECT_EQ(StageOfSlot(slot, {true, mmx, sse, sse2}, level), wanted)
                     << "slot " << slot << ", combination " << combination;
             }
-}
-
-TEST(KernelTable, IsReadyWhenTheProgramStarts) {
-    EXPECT_TRUE(ProcessorFeatures.cpuFeaturesKnown);
-    const KernelSet wanted = MakeKernelTable(ProcessorFeatures, CurrentLevel());
-    EXPECT_EQ(std::memcmp(&KernelTable, &wanted, sizeof wanted), 0);
 }
 
 TEST(KernelTable, ComesWithTheTablesThatItsKernelsRead) {

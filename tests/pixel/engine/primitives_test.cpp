@@ -107,6 +107,18 @@ TEST_P(Primitives, Mirror) {
         }
 }
 
+TEST(PrimitiveCalls, RefuseNullPointersSizesAndAxes) {
+    const Image image(5, 4), before = image;
+    const TargetPixels pixels = TargetOf(image), nothing{nullptr, 20};
+    for (const auto& c : cases) {
+        for (const SIZE size : {SIZE{0, 4}, SIZE{5, 0}, SIZE{5, -4}})
+            EXPECT_EQ(c.run(pixels, pixels, size, 77), Status::badSize) << c.name;
+        EXPECT_EQ(c.run(pixels, nothing, {5, 4}, 77), Status::nullPointer) << c.name;
+    }
+    for (const int axis : {-1, 3}) EXPECT_EQ(MirrorPixels(pixels, pixels, {5, 4}, axis), Status::badAxis);
+    EXPECT_TRUE(SameBytes(image, before));
+}
+
 // What a processor that does not exist answers: four registers for each leaf.
 int answers[8][4];
 std::uint64_t enabledState;
