@@ -58,15 +58,12 @@ TEST(Fills, PremultipliedAndPlainFormsDifferOnlyInTheColour) {
 }
 
 TEST(Fills, ColorsThatChangeNothingNeedNoCanvas) {
-    const struct {
-        DWORD color, mode;
-        int result;
-    } cases[] = {
-        {0x00FFFFFF, 0x01000000, 1}, {0x00FFFFFF, 0x02000000, 1}, {0xFFFFFFFF, 0x03000000, 1},
-        {0xFFFFFFFF, 0x04000000, 1}, {0x00FFFFFF, 0x05000000, 0}, {0x00FFFFFF, 0x07000000, 0},
-        {0x00000000, 0x00000000, 0}, {0xFFFFFFFF, 0x01000000, 0},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(FillSolidRectEx(nullptr, c.color, &whole, c.mode), c.result) << c.color << ' ' << c.mode;
+    using Fill = std::pair<DWORD, DWORD>;
+    for (const auto& [color, mode] :
+         {Fill{0x00FFFFFF, 0x01000000}, {0x00FFFFFF, 0x02000000}, {0xFFFFFFFF, 0x03000000}, {0xFFFFFFFF, 0x04000000}})
+        EXPECT_EQ(FillSolidRectEx(nullptr, color, &whole, mode), 1) << color << ' ' << mode;
+    for (const auto& [color, mode] :
+         {Fill{0x00FFFFFF, 0x05000000}, {0x00FFFFFF, 0x07000000}, {0x00000000, 0x00000000}, {0xFFFFFFFF, 0x01000000}})
+        EXPECT_EQ(FillSolidRectEx(nullptr, color, &whole, mode), 0) << color << ' ' << mode;
     EXPECT_EQ(FillSolidRect(nullptr, 0, &whole), 1);
 }

@@ -66,8 +66,8 @@ struct DrawSources {
     const OwnedCanvas canvas{CreateCanvas(sourceWidth, sourceHeight, nullptr)};
 };
 
-// The operation words of the sources are the draw's, until the next one. onSurface: also what only canvases with a surface
-// do, and what asks for their alpha.
+// The operation words of the sources are the draw's, until the next one. onSurface: also what only canvases with a
+// surface do, and what asks for their alpha.
 RandomDraw NextDraw(const DrawSources& sources, zorvic::Random& random, bool onSurface) {
     constexpr DWORD operations[] = {ZORVIC_OP_COPY, ZORVIC_OP_SOURCE_OVER, ZORVIC_OP_COLOR_KEY, ZORVIC_OP_MULTIPLY,
                                     ZORVIC_OP_DESTINATION_OVER};

@@ -1,5 +1,5 @@
-// Layouts are compared piece by piece: a layout must have the pixels of the DrawBitmapEx2 calls for its pieces, whatever
-// the operation, filter and opacity.
+// Layouts are compared piece by piece: a layout must have the pixels of the DrawBitmapEx2 calls for its pieces,
+// whatever the operation, filter and opacity.
 #pragma once
 
 #include <functional>

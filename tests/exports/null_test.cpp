@@ -1,6 +1,5 @@
 // Every export with one of its pointers NULL and all else in order. Handles are refused; so is what a call cannot do
 // without, and elsewhere NULL stands for everything or for nothing to be done.
-#include <map>
 #include <string>
 #include <tuple>
 
@@ -39,25 +38,23 @@ private:
     alignas(8) BYTE room[256] = {};  // for results; as a record, one of nothing
 };
 
-// Parameters that may be missing, and exports with a rectangle that may not; other calls take all or have nothing to do.
+// Parameters that may be missing; exports with a rectangle that may not, while others take all or have nothing to do;
+// and exports that refuse by -1.
 constexpr std::string_view optional = " reference previous pen brush bits ";
 constexpr std::string_view needRect =
     " SetTextureSlice SetCanvasClipRect SetCanvasClipRoundRect IntersectCanvasClipRect DrawTextureTile "
     "DrawTextureTopTile GdiTransCanvas FillRectangleEx FillRoundRectEx DrawRoundRect DrawColor GeoRectangleEx "
     "GeoRoundRect GeoRoundRectEx CopyBitmap_IPP ";
+constexpr std::string_view minusOne = " SetTextureCurSlice GetTextureSliceCount GetBlendMode ";
 
 bool Names(std::string_view words, const std::string& word) { return words.find(' ' + word + ' ') != words.npos; }
 
+// What a call returns without this argument.
 double Wanted(const std::string& name, const std::string& parameter, bool isRect) {
-    static const std::map<std::string, double> refusals = {{"SetTextureCurSlice", -1},
-                                                           {"GetTextureSliceCount", -1},
-                                                           {"GetBlendMode", -1},
-                                                           {"GetBlendValue", 255},
-                                                           {"GetStrokeWidth", 1}};
     if (Names(optional, parameter) || name + parameter == "SetCanvasClipRoundRectcorner") return 1;
     if (isRect) return Names(needRect, name) ? 0 : 1;
-    const auto refusal = refusals.find(name);
-    return refusal == refusals.end() ? 0 : refusal->second;
+    if (Names(minusOne, name)) return -1;
+    return name == "GetBlendValue" ? 255 : name == "GetStrokeWidth" ? 1 : 0;
 }
 
 template <class Value, class... Args>
