@@ -32,13 +32,12 @@ Result Recorded(std::string_view name, Args... args) {
     log << name;
     (Write(args), ...);
     log << '\n';
-    // Numbers tell the functions apart by the length of their names; handles are never used.
     if constexpr (std::is_same_v<Result, VekCanvas>)
         if (vekRefuseCanvases) return nullptr;
     if constexpr (std::is_pointer_v<Result>)
-        return reinterpret_cast<Result>(name.size());
+        return reinterpret_cast<Result>(13);  // never used
     else
-        return static_cast<Result>(name.size());
+        return static_cast<Result>(13);
 }
 
 }  // namespace

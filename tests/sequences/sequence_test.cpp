@@ -1,5 +1,6 @@
 // What zorvic32.dll says to its vector backend, as sequences of calls: a recording backend stands in for vekgraphic.dll.
 #include <functional>
+#include <span>
 
 #include "support/host.h"
 
@@ -11,7 +12,7 @@ extern "C" __declspec(dllimport) int vekRefuseCanvases;
 
 namespace {
 
-constexpr RECT rect{5, 6, 25, 16};
+constexpr RECT rect{5, 6, 25, 16}, here{-2, -3, 18, 7};  // the second is inside the clip
 constexpr POINT corner{4, 3};
 
 // A canvas of 40 x 30 with a clip and both origins, on which the backend is bound already.
@@ -35,34 +36,30 @@ std::string Styled(const std::string& style, const std::string& shape) {
     return "Save\n" + style + Framed(shape) + "Restore\n";
 }
 
+constexpr double nothing = 0;  // of functions without a result
+
 // A call and what the backend hears of it.
 struct Sequence {
-    template <class Call>
-    Sequence(Call make, std::string calls) : wanted(std::move(calls)) {
-        call = [make](HGCANVAS canvas) {
-            if constexpr (std::is_void_v<decltype(make(canvas))>)
-                return make(canvas), nothing;
-            else
-                return static_cast<double>(make(canvas));
-        };
-        nothingReturned = std::is_void_v<decltype(make(HGCANVAS{}))>;
-    }
-    // The backend's answers are the lengths of its functions' names: shapes and questions hand them through.
-    double Result() const {
-        if (nothingReturned || wanted.empty()) return nothingReturned ? nothing : 1;
-        const std::size_t answer = wanted.find("\nDraw") + 1;  // 0 without one
-        return static_cast<double>(wanted.find_first_of(" \n", answer) - answer);
-    }
-
-    static constexpr double nothing = -9;
     std::function<double(HGCANVAS)> call;
     std::string wanted;
-    bool nothingReturned;
+    double result = 13;  // the backend's answer to everything
 };
+
+std::string Gradient(const std::string& line) {
+    return "Save\nGradientCreateLinear " + line +
+           "\nGradientAddColorStop 0 #40ff0000\nGradientAddColorStop 1 #ff00ff00\nSetGradient\nSetDrawStyle 2\n" +
+           Framed("DrawRectangle -2 -3 20 10") + "GradientDestroy\nRestore\n";
+}
+
+int DrawWithPen(HGCANVAS canvas, int style) {
+    const std::unique_ptr<HPEN__, decltype(&DeleteObject)> pen(CreatePen(style, 3, RGB(1, 2, 3)), DeleteObject);
+    return GeoRoundRect(canvas, &rect, &corner, pen.get());
+}
 
 const POINT triangle[] = {{1, 2}, {7, 2}, {4, 9}};
 const float pattern[] = {3, 1.5F};
-const std::string roundRect = "DrawRoundRect (5 6 25 16) 4 3", solid = "SetColor #80ff0000\nSetDrawStyle 0\n";
+const std::string roundRect = "DrawRoundRect (5 6 25 16) 4 3", solid = "SetColor #80ff0000\nSetDrawStyle 0\n",
+                  pen = "SetColor #ff010203\nSetDrawStyle 1\nSetStrokeWidth 3\nSetDashStyle ";
 
 const Sequence sequences[] = {
     {[](HGCANVAS c) { return DrawPoint(c, 1.5F, -2); }, Framed("DrawPoint 1.5 -2")},
@@ -73,6 +70,22 @@ const Sequence sequences[] = {
     {[](HGCANVAS c) { return DrawEllipse(c, 1, 2, 3, 4); }, Framed("DrawEllipse 1 2 3 4")},
     {[](HGCANVAS c) { return DrawColor(c, 0x80FF0001, &rect); }, Framed("DrawColor #80ff0001 (5 6 25 16)")},
     {[](HGCANVAS c) { return DrawPath(c, nullptr); }, Framed("DrawPath null")},
+    {[](HGCANVAS c) { return Save(c), nothing; }, "Save\n", nothing},
+    {[](HGCANVAS c) { return Restore(c), nothing; }, "Restore\n", nothing},
+    {[](HGCANVAS c) { return SetDrawStyle(c, 7), nothing; }, "SetDrawStyle 7\n", nothing},
+    {[](HGCANVAS c) { return SetColor(c, 0x01020304), nothing; }, "SetColor #1020304\n", nothing},
+    {[](HGCANVAS c) { return SetSmooth(c, 3), nothing; }, "SetSmooth 3\n", nothing},
+    {[](HGCANVAS c) { return SetBlendMode(c, -4), nothing; }, "SetBlendMode -4\n", nothing},
+    {[](HGCANVAS c) { return SetBlendValue(c, 300), nothing; }, "SetBlendValue 300\n", nothing},
+    {[](HGCANVAS c) { return SetStrokeCap(c, 2), nothing; }, "SetStrokeCap 2\n", nothing},
+    {[](HGCANVAS c) { return SetStrokeJoin(c, 1), nothing; }, "SetStrokeJoin 1\n", nothing},
+    {[](HGCANVAS c) { return SetStrokeWidth(c, 2.5F), nothing; }, "SetStrokeWidth 2.5\n", nothing},
+    {[](HGCANVAS c) { return SetDashStyle(c, 255), nothing; }, "SetDashStyle 255\n", nothing},
+    {[](HGCANVAS c) { return SetDashPattern(c, pattern, 2), nothing; }, "SetDashPattern 3 2\n", nothing},
+    {[](HGCANVAS c) { return SetGradient(c, nullptr), nothing; }, "SetGradient null\n", nothing},
+    {[](HGCANVAS c) { return GetBlendMode(c); }, "GetBlendMode\n"},
+    {[](HGCANVAS c) { return GetBlendValue(c); }, "GetBlendValue\n"},
+    {[](HGCANVAS c) { return GetStrokeWidth(c); }, "GetStrokeWidth\n"},
     {[](HGCANVAS c) { return DrawPolygon(c, 3, triangle); },
      Framed("PathCreate\nPathBegin\nPathMoveTo 1 2\nPathLineTo 1 2\nPathLineTo 7 2\nPathLineTo 4 9\nPathClose\n"
             "DrawPath\nPathDestroy")},
@@ -80,42 +93,36 @@ const Sequence sequences[] = {
      Framed("PathCreate\nPathBegin\nPathMoveTo 1 2\nPathClose\nDrawPath\nPathDestroy")},
     {[](HGCANVAS c) { return DrawBezier(c, triangle, triangle + 1, triangle + 2, &corner); },
      Framed("PathCreate\nPathBegin\nPathMoveTo 1 2\nPathBezierCurveTo 7 2 4 9 4 3\nDrawPath\nPathDestroy")},
-
-    {[](HGCANVAS c) { Save(c); }, "Save\n"},
-    {[](HGCANVAS c) { Restore(c); }, "Restore\n"},
-    {[](HGCANVAS c) { SetDrawStyle(c, 7); }, "SetDrawStyle 7\n"},
-    {[](HGCANVAS c) { SetColor(c, 0x01020304); }, "SetColor #1020304\n"},
-    {[](HGCANVAS c) { SetSmooth(c, 3); }, "SetSmooth 3\n"},
-    {[](HGCANVAS c) { SetBlendMode(c, -4); }, "SetBlendMode -4\n"},
-    {[](HGCANVAS c) { SetBlendValue(c, 300); }, "SetBlendValue 300\n"},
-    {[](HGCANVAS c) { SetStrokeCap(c, 2); }, "SetStrokeCap 2\n"},
-    {[](HGCANVAS c) { SetStrokeJoin(c, 1); }, "SetStrokeJoin 1\n"},
-    {[](HGCANVAS c) { SetStrokeWidth(c, 2.5F); }, "SetStrokeWidth 2.5\n"},
-    {[](HGCANVAS c) { SetDashStyle(c, 255); }, "SetDashStyle 255\n"},
-    {[](HGCANVAS c) { SetDashPattern(c, pattern, 2); }, "SetDashPattern 3 2\n"},
-    {[](HGCANVAS c) { SetGradient(c, nullptr); }, "SetGradient null\n"},
-    {[](HGCANVAS c) { return GetBlendMode(c); }, "GetBlendMode\n"},
-    {[](HGCANVAS c) { return GetBlendValue(c); }, "GetBlendValue\n"},
-    {[](HGCANVAS c) { return GetStrokeWidth(c); }, "GetStrokeWidth\n"},
-
     {[](HGCANVAS c) { return FillRectangleEx(c, &rect, 0x80FF0000); }, Styled(solid, "DrawRectangle 5 6 20 10")},
     {[](HGCANVAS c) { return FillRoundRectEx(c, &rect, &corner, 0x80FF0000); }, Styled(solid, roundRect)},
-    {[](HGCANVAS c) { return FillGradualRect(c, 1, 0xFF000000, &rect, 1); }, ""},  // clipped away
     {[](HGCANVAS c) { return GeoRectangleEx(c, &rect, 0xFF00FF00, 2); },
      Styled("SetColor #ff00ff00\nSetSmooth 0\nSetDrawStyle 1\nSetStrokeWidth 2\n", "DrawRectangle 5 6 19 9")},
     {[](HGCANVAS c) { return GeoRoundRectEx(c, &rect, &corner, 0xFF00FF00, 2); },
      Styled("SetColor #ff00ff00\nSetSmooth 1\nSetDrawStyle 1\nSetStrokeWidth 2\n", roundRect)},
     {[](HGCANVAS c) { return GeoRoundRect(c, &rect, &corner, nullptr); }, Styled("", roundRect)},
+    {[](HGCANVAS c) { return DrawWithPen(c, PS_DASHDOTDOT); }, Styled(pen + "4\n", roundRect)},
+    {[](HGCANVAS c) { return DrawWithPen(c, PS_INSIDEFRAME); }, Styled(pen + "0\n", roundRect)},
+    {[](HGCANVAS c) { return FillGradualRect(c, 0x40FF0000, 0xFF00FF00, &here, 1); }, Gradient("-2 -3 -2 7"), 1},
+    {[](HGCANVAS c) { return FillGradualRect(c, 0x40FF0000, 0xFF00FF00, &here, 2); }, Gradient("-2 -3 18 -3"), 1},
+    // Clipped away; or a solid fill, because the colours are equal once premultiplied, or without a direction.
+    {[](HGCANVAS c) { return FillGradualRect(c, 1, 0xFF000000, &rect, 1); }, "", 1},
+    {[](HGCANVAS c) { return FillGradualRect(c, 0x01FF0000, 0x01800000, &here, 1); }, "", 1},
+    {[](HGCANVAS c) { return FillGradualRect(c, 0xFFFF0000, 0xFF00FF00, &here, 3); }, "", 1},
 };
+
+void ExpectCalls(std::span<const Sequence> calls, HGCANVAS canvas) {
+    for (const auto& [call, text, result] : calls) {
+        EXPECT_EQ(call(canvas), result) << text;
+        EXPECT_EQ(vekRecordedCalls(), text);
+    }
+}
 
 }  // namespace
 
 TEST(Sequences, EveryCallSaysWhatItShould) {
     const OwnedCanvas canvas = MakeCanvas();
-    for (const Sequence& sequence : sequences) {
-        EXPECT_EQ(sequence.call(canvas.get()), sequence.Result()) << sequence.wanted;
-        EXPECT_EQ(vekRecordedCalls(), sequence.wanted);
-    }
+    ExpectCalls(sequences, canvas.get());
+    EXPECT_TRUE(Shows(canvas.get(), [](int x, int y) { return Inside({5, 13, 25, 22}, x, y) ? 0xFFFF0000U : 0U; }));
 }
 
 TEST(Sequences, TheBackendIsBoundOnFirstUseAndWhenThePixelsMove) {
@@ -128,45 +135,12 @@ TEST(Sequences, TheBackendIsBoundOnFirstUseAndWhenThePixelsMove) {
         EXPECT_EQ(vekRecordedCalls(), "Create\n" + bind + "GetBlendValue\n");
         GetBlendValue(canvas.get());
         EXPECT_STREQ(vekRecordedCalls(), "GetBlendValue\n") << "bound once";
-        if (behindTheCanvas) {
-            GetBitmapHandle(GetBitmap(canvas.get()));
-        } else {
-            GetCanvasHandle(canvas.get());
-        }
+        if (behindTheCanvas) GetBitmapHandle(GetBitmap(canvas.get()));
+        if (!behindTheCanvas) GetCanvasHandle(canvas.get());
         GetBlendValue(canvas.get());
         EXPECT_EQ(vekRecordedCalls(), bind + "GetBlendValue\n") << behindTheCanvas;
         canvas.reset();
         EXPECT_STREQ(vekRecordedCalls(), "Destroy\n");
-    }
-}
-
-TEST(Sequences, GradientsRunAlongTheirDirection) {
-    const OwnedCanvas canvas = MakeCanvas();
-    const RECT here{-2, -3, 18, 7};  // inside the clip
-    for (const auto& [direction, line] : {std::pair(1UL, "-2 -3 -2 7"), {2UL, "-2 -3 18 -3"}}) {
-        EXPECT_EQ(FillGradualRect(canvas.get(), 0x40FF0000, 0xFF00FF00, &here, direction), 1);
-        EXPECT_EQ(vekRecordedCalls(), "Save\nGradientCreateLinear " + std::string(line) +
-                                          "\nGradientAddColorStop 0 #40ff0000\nGradientAddColorStop 1 #ff00ff00\n"
-                                          "SetGradient\nSetDrawStyle 2\n" +
-                                          Framed("DrawRectangle -2 -3 20 10") + "GradientDestroy\nRestore\n");
-    }
-    // Equal once premultiplied, or no direction: a solid fill, which the backend never sees.
-    EXPECT_EQ(FillGradualRect(canvas.get(), 0x00FF0000, 0x0000FF00, &here, 1), 1);
-    EXPECT_EQ(FillGradualRect(canvas.get(), 0xFFFF0000, 0xFF00FF00, &here, 3), 1);
-    EXPECT_STREQ(vekRecordedCalls(), "");
-    EXPECT_TRUE(Shows(canvas.get(), [](int x, int y) { return Inside({5, 13, 25, 22}, x, y) ? 0xFFFF0000U : 0U; }));
-}
-
-TEST(Sequences, PensBecomeStyles) {
-    const OwnedCanvas canvas = MakeCanvas();
-    for (const int style : {PS_SOLID, PS_DASH, PS_DOT, PS_DASHDOT, PS_DASHDOTDOT, PS_INSIDEFRAME}) {
-        const HPEN pen = CreatePen(style, 3, RGB(1, 2, 3));
-        EXPECT_EQ(GeoRoundRect(canvas.get(), &rect, &corner, pen), 13);
-        DeleteObject(pen);
-        const std::string dash = std::to_string(style <= PS_DASHDOTDOT ? style : 0);
-        EXPECT_EQ(
-            vekRecordedCalls(),
-            Styled("SetColor #ff010203\nSetDrawStyle 1\nSetStrokeWidth 3\nSetDashStyle " + dash + '\n', roundRect));
     }
 }
 
@@ -212,14 +186,11 @@ TEST(Sequences, PathsAndGradientsAreHandedThrough) {
         {[&](HGCANVAS) { return PathGetBounds(path, &bounds); }, "PathGetBounds\n"},
         {[&](HGCANVAS) { return GradientAddColorStop(gradient, 0.5F, 0x80FF0000); },
          "GradientAddColorStop 0.5 #80ff0000\n"},
-        {[](HGCANVAS) { GradientDestroy(GradientCreateLinear(1, 2, 3, 4)); },
-         "GradientCreateLinear 1 2 3 4\nGradientDestroy\n"},
-        {[&](HGCANVAS) { PathDestroy(path); }, "PathDestroy\n"},
+        {[](HGCANVAS) { return GradientDestroy(GradientCreateLinear(1, 2, 3, 4)), nothing; },
+         "GradientCreateLinear 1 2 3 4\nGradientDestroy\n", nothing},
+        {[&](HGCANVAS) { return PathDestroy(path), nothing; }, "PathDestroy\n", nothing},
     };
-    for (const Sequence& call : calls) {
-        EXPECT_EQ(call.call(nullptr), call.Result()) << call.wanted;
-        EXPECT_EQ(vekRecordedCalls(), call.wanted);
-    }
+    ExpectCalls(calls, nullptr);
     EXPECT_TRUE(bounds.left == 1 && bounds.top == 2 && bounds.right == 3 && bounds.bottom == 4);
     GradientDestroy(gradient);
 }
@@ -230,17 +201,16 @@ TEST(Sequences, WithoutASurfaceOrABackendNothingIsSaid) {
     vekRecordedCalls();
     vekRefuseCanvases = 1;
     for (const HGCANVAS canvas : {onDc.get(), refused.get(), HGCANVAS{}})
-        for (const Sequence& sequence : sequences) {
-            const double wanted = sequence.nothingReturned                ? Sequence::nothing
-                                  : sequence.wanted == "GetStrokeWidth\n" ? 1
-                                  : sequence.wanted == "GetBlendMode\n"   ? -1
-                                  : sequence.wanted == "GetBlendValue\n"  ? 255
-                                  : sequence.wanted.empty() && canvas     ? 1
-                                                                          : 0;
-            EXPECT_EQ(sequence.call(canvas), wanted) << sequence.wanted;
+        for (const auto& [call, text, result] : sequences) {
+            const double wanted = text == "GetBlendMode\n"     ? -1
+                                  : text == "GetBlendValue\n"  ? 255
+                                  : text == "GetStrokeWidth\n" ? 1
+                                  : result == 1 && canvas      ? 1
+                                                               : 0;
+            EXPECT_EQ(call(canvas), wanted) << text;
             std::string calls = vekRecordedCalls();
             while (calls.starts_with("Create\n")) calls.erase(0, 7);
-            EXPECT_EQ(calls, "") << sequence.wanted;
+            EXPECT_EQ(calls, "") << text;
         }
     vekRefuseCanvases = 0;
     EXPECT_EQ(FillRectangleEx(refused.get(), &rect, 0xFF000000), 13) << "the canvas works again";

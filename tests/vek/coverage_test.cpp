@@ -9,12 +9,7 @@ using std::numbers::pi;
 
 namespace {
 
-struct AreaCase {
-    double area;
-    std::string script;
-};
-
-void ExpectAreas(const std::vector<AreaCase>& cases) {
+void ExpectAreas(const std::vector<std::pair<double, std::string>>& cases) {
     for (const auto& [area, script] : cases) {
         Drawing drawing;
         EXPECT_EQ(Draw(drawing, script), 1) << script;
@@ -106,19 +101,18 @@ TEST(Coverage, DashesHaveTheirArea) {
 
 // A figure drawn many times over in one path covers what it covers once, although it takes another way to the pixels.
 TEST(Coverage, ManyEdgesCoverTheSame) {
-    const std::string strokes[] = {"", "style 1  width 14  cap 0  join 0", "style 1  width 14  cap 1  join 1",
-                                   "style 1  width 14  cap 2  join 2"};
+    // A drawing erases, or blends through a copy.
+    const std::string modes[] = {"mode 0  ", "#FF000000 fill 0 0 200 200  mode 3  ", "mode 26  "},
+                      looks[] = {"style 0  path", "style 1  cap 0  join 0  path", "style 1  cap 1  join 1  path",
+                                 "style 1  cap 2  join 2  path"};
     const std::string figure = "M 20.3 150  L 50 30.6  L 90 160  L 120 40  L 170 120  C 120 190 80 190 60 100  ";
-    // Some erase, some blend through a copy.
     for (int kind = 0; kind < 7; ++kind) {
-        const std::string mode = kind % 3 == 0 ? "mode 0  " : kind % 3 == 1 ? "mode 3  " : "mode 26  ";
-        const Pixel before = kind % 3 == 1 ? 0xFF000000 : 0;
-        Drawing once(200, 200, before), often(200, 200, before);
+        Drawing once, often;
         for (Drawing* drawing : {&once, &often}) {
             Pen pen(*drawing);
             for (int copies = drawing == &once ? 1 : kind == 0 ? 4000 : 2000; copies > 0; --copies)
                 Draw(pen, kind % 2 != 0 ? figure + "Z" : figure);
-            Draw(pen, mode + strokes[(kind + 1) / 2] + "  path");
+            Draw(pen, modes[kind % 3] + "width 14  " + looks[(kind + 1) / 2]);
         }
         EXPECT_NEAR(often.Area(), once.Area(), once.Area() / 100) << "kind " << kind;
         for (std::size_t i = 0; i < once.words.size(); ++i)

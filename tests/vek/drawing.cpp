@@ -22,7 +22,7 @@ NumberCall Of(const char* name, Result (*function)(Args...)) {
                 const std::tuple<Args...> arguments{pen.Argument<Args>(next)...};
                 if constexpr (std::is_same_v<Result, int>)
                     return std::apply(function, arguments);
-                else if (OwnedGradient made{std::apply(function, arguments)}) {
+                else if (Owned<VekGradient> made{std::apply(function, arguments)}) {
                     pen.gradient = std::move(made);
                     return vekCanvasSetGradient(pen, pen);
                 }

@@ -28,9 +28,6 @@ struct DeleteHandle {
 };
 template <class Handle>
 using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, DeleteHandle>;
-using OwnedBitmap = Owned<VekBitmap>;
-using OwnedPath = Owned<VekPath>;
-using OwnedGradient = Owned<VekGradient>;
 
 struct Pixels {
     int width;
@@ -41,7 +38,9 @@ struct Pixels {
         : width(w), height(h), words(static_cast<std::size_t>(w) * static_cast<std::size_t>(h), fill) {}
     Pixel& At(int x, int y) { return words[static_cast<std::size_t>(y * width + x)]; }
     Pixel At(int x, int y) const { return words[static_cast<std::size_t>(y * width + x)]; }
-    OwnedBitmap Wrap() { return OwnedBitmap(vekBitmapCreateFromData(words.data(), width, height, width * 4)); }
+    Owned<VekBitmap> Wrap() {
+        return Owned<VekBitmap>(vekBitmapCreateFromData(words.data(), width, height, width * 4));
+    }
 
     // Alpha of all pixels, in pixels: the area of what was drawn in an opaque colour.
     double Area() const {
@@ -65,10 +64,9 @@ struct Drawing : Pixels {
 inline void FillWithNoise(Pixels& pixels, unsigned seed) {
     std::mt19937 random(seed);
     for (Pixel& pixel : pixels.words) {
-        const Pixel word = random();
-        const Pixel alpha = word >> 24 < 64 ? 0 : word >> 24 < 128 ? 255 : word >> 24;
-        const auto channel = [&](int shift) { return (word >> shift & 0xFF) * alpha / 255 << shift; };
-        pixel = alpha << 24 | channel(16) | channel(8) | channel(0);
+        const Pixel word = random(), alpha = word % 4 == 0 ? 0 : word % 4 == 1 ? 255 : word >> 24;
+        pixel = alpha << 24;
+        for (const int shift : {0, 8, 16}) pixel |= (word >> shift & 0xFF) * alpha / 255 << shift;
     }
 }
 
@@ -82,7 +80,7 @@ inline testing::AssertionResult IsNear(Pixel got, Pixel wanted, int distance) {
 
 // What calls work on: a canvas, and what the calls before made.
 struct Pen {
-    explicit Pen(VekCanvas c) : canvas(c) {}
+    explicit Pen(VekCanvas c) : canvas(c) { FillWithNoise(picture, 11); }
     operator VekCanvas() const { return canvas; }
     operator VekPath() const { return path.get(); }
     operator VekGradient() const { return gradient.get(); }
@@ -104,10 +102,10 @@ struct Pen {
     }
 
     VekCanvas canvas;
-    OwnedPath path{vekPathCreate()};
-    OwnedGradient gradient;
-    Pixels green{20, 20, 0xFF00FF00};
-    OwnedBitmap bitmap = green.Wrap();
+    Owned<VekPath> path{vekPathCreate()};
+    Owned<VekGradient> gradient;
+    Pixels picture{9, 8};
+    Owned<VekBitmap> bitmap = picture.Wrap();
     LONG memory[4] = {9, 9, 9, 9};
     DWORD color = 0xFF000000;  // set by a word #AARRGGBB
 };

@@ -6,10 +6,7 @@
 using namespace vek_test;
 
 TEST(Path, BoundsAreExact) {
-    const struct {
-        const char* script;
-        VekBounds bounds;
-    } cases[] = {
+    const std::pair<const char*, VekBounds> cases[] = {
         {"", {0, 0, 0, 0}},
         {"M 5 6", {0, 0, 0, 0}},
         {"L 5 6", {0, 0, 0, 0}},  // the first line only starts
@@ -34,22 +31,18 @@ TEST(Path, BoundsAreExact) {
         {"M 0 0  T 10 10 20 20 4", {0, 0, 10, 10}},
         {"R 3e38 -3e38 3e38 -3e38", {3e38F, -3.4028235e38F, 3.4028235e38F, -3e38F}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [script, bounds] : cases) {
         Pen pen(nullptr);
         VekBounds got{};
-        EXPECT_EQ(Draw(pen, c.script) & vekPathGetBounds(pen, &got), 1) << c.script;
+        EXPECT_EQ(Draw(pen, script) & vekPathGetBounds(pen, &got), 1) << script;
         for (const auto side : {&VekBounds::left, &VekBounds::top, &VekBounds::right, &VekBounds::bottom})
-            EXPECT_NEAR(got.*side, c.bounds.*side, std::abs(c.bounds.*side) * 1e-6F + 2e-6F) << c.script;
+            EXPECT_NEAR(got.*side, bounds.*side, std::abs(bounds.*side) * 1e-6F + 2e-6F) << script;
     }
 }
 
 TEST(Gradient, ColorsAtKnownPlaces) {
     const std::string linear = "linear 50 0 150 0  ", redToBlue = "#FFFF0000 stop 0  #FF0000FF stop 1  ";
-    struct Place {
-        int x, y;
-        Pixel color;
-    };
-    const std::pair<std::string, std::vector<Place>> cases[] = {
+    const std::pair<std::string, std::vector<std::tuple<int, int, Pixel>>> cases[] = {
         {linear + redToBlue, {{10, 5, 0xFFFF0000}, {100, 5, 0xFF7E0081}, {170, 5, 0xFF0000FF}}},
         {linear + "#FF0000FF stop 7  #FF00FF00 stop 0.5  #FFFF0000 stop -1",
          {{75, 0, 0xFF7E8100}, {100, 0, 0xFF00FC03}, {125, 0, 0xFF007E81}}},
@@ -79,17 +72,16 @@ TEST(Gradient, ColorsAtKnownPlaces) {
 }
 
 TEST(Gradient, OutlivesItsHandleAndTakesLaterStops) {
-    const std::string rectangle = "  rectangle 0 0 100 10";
     Drawing drawing;
     {
         Pen pen(drawing);
-        Draw(pen, "style 2  linear 0 0 100 0  #FFFF0000 stop 0" + rectangle);
+        Draw(pen, "style 2  linear 0 0 100 0  #FFFF0000 stop 0  rectangle 0 0 100 10");
         EXPECT_TRUE(IsNear(drawing.At(99, 5), 0xFFFF0000, 2));
         Draw(pen, "#FF0000FF stop 1");
     }
-    Draw(drawing, rectangle);
+    Draw(drawing, "rectangle 0 0 100 10");
     EXPECT_TRUE(IsNear(drawing.At(50, 5), 0xFF7E0081, 1));
     vekCanvasSetGradient(drawing, nullptr);
-    Draw(drawing, "#FF112233" + rectangle);
+    Draw(drawing, "#FF112233  rectangle 0 0 100 10");
     EXPECT_EQ(drawing.At(55, 5), 0xFF112233);
 }

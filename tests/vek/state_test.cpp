@@ -99,7 +99,7 @@ TEST(State, ClipsLayersAndGradientsFollowTheTranslation) {
 TEST(State, ALayerWithoutMemoryIsOnlyASave) {
     constexpr int most = 32767;
     Pixels rows(most, 3);
-    const OwnedBitmap huge(vekBitmapCreateFromData(rows.words.data(), most, most, most * 4));
+    const Owned<VekBitmap> huge(vekBitmapCreateFromData(rows.words.data(), most, most, most * 4));
     Drawing drawing;
     vekCanvasSetBitmap(drawing, huge.get());
     EXPECT_EQ(Draw(drawing, "layer 0 0 40000 40000 128"), 0);
