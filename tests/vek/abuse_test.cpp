@@ -18,15 +18,13 @@ double ProcessorSeconds() {
 
 // A random style that leaves nothing out.
 void SetRandomStyle(VekCanvas canvas, std::mt19937& random) {
-    vekCanvasSetDrawStyle(canvas, static_cast<int>(random() % 3));
+    const std::pair<int (*)(VekCanvas, int), unsigned> setters[] = {
+        {vekCanvasSetDrawStyle, 3}, {vekCanvasSetSmooth, 4},     {vekCanvasSetBlendMode, 27},
+        {vekCanvasSetStrokeCap, 3}, {vekCanvasSetStrokeJoin, 3}, {vekCanvasSetDashStyle, 6}};
+    for (const auto& [set, count] : setters) set(canvas, static_cast<int>(random() % count));
     vekCanvasSetColor(canvas, random() | 0x20000000);
-    vekCanvasSetSmooth(canvas, static_cast<int>(random() % 4));
-    vekCanvasSetBlendMode(canvas, static_cast<int>(random() % 27));
     vekCanvasSetBlendValue(canvas, random() % 2 ? 255 : static_cast<int>(random() % 256));
-    vekCanvasSetStrokeCap(canvas, static_cast<int>(random() % 3));
-    vekCanvasSetStrokeJoin(canvas, static_cast<int>(random() % 3));
     vekCanvasSetStrokeWidth(canvas, static_cast<float>(random() % 300) / 10);
-    vekCanvasSetDashStyle(canvas, static_cast<int>(random() % 6));
 }
 
 // Hosts that are compiled with other compilers call with a stack aligned to 4 bytes only, and count on their registers.
@@ -50,9 +48,9 @@ TEST(Abuse, RandomCallsEndAndStayInsideClipAndMemory) {
     constexpr int size = 70, stride = 80, rows = size + 20;
     Pixels memory(stride, rows);
     const Owned<VekBitmap> bitmap(vekBitmapCreateFromData(&memory.At(5, 10), size, size, stride * 4));
-    const Owned<VekCanvas> canvas(vekCanvasCreate());
-    vekCanvasSetBitmap(canvas.get(), bitmap.get());
-    Pen pen(canvas.get());
+    const Drawing canvas;
+    vekCanvasSetBitmap(canvas, bitmap.get());
+    Pen pen(canvas);
     Draw(pen, "linear 0 0 20 20");
     std::mt19937 random(2);
     const auto pixel = [&] { return static_cast<LONG>(random() % 90) - 10; };
@@ -109,10 +107,10 @@ TEST(Abuse, LargePathsTakeBoundedTime) {
         vekPathLineTo(path.get(), static_cast<float>(random() % 64000) / 100 - 20,
                       static_cast<float>(random() % 64000) / 100 - 20);
     const std::tuple<const char*, std::size_t, double> cases[] = {{"style 0", 0, 0.9},
-                 {"style 1", 0, 0.9},
-                 {"style 1  cap 1  join 1  width 1e30", 0, 1},
-                 {"style 1  cap 1  join 1", 2, 0.45},
-                 {"style 1  cap 2  join 2", 1000000, 0.45}};
+                                                                  {"style 1", 0, 0.9},
+                                                                  {"style 1  cap 1  join 1  width 1e30", 0, 1},
+                                                                  {"style 1  cap 1  join 1", 2, 0.45},
+                                                                  {"style 1  cap 2  join 2", 1000000, 0.45}};
     for (const auto& [look, dashes, area] : cases) {
         Drawing drawing(600, 600);
         Draw(drawing, look);
@@ -137,21 +135,18 @@ TEST(Abuse, ThreadsDrawWhatOneDraws) {
     }
     std::vector<Pixel> sums(drawings.size());  // of the pixels after every round
     const auto draw = [&](std::size_t index) {
-        Drawing& drawing = drawings[index];
+        Pen pen(drawings[index]);
         std::mt19937 random(index % seeds);
-        Pixels picture(8, 8, 0x80402010);
-        const Owned<VekBitmap> bitmap = picture.Wrap();
-        const Owned<VekPath> path(vekPathCreate());
-        vekPathAddCircle(path.get(), 11, 11, 9);
+        vekPathAddCircle(pen, 11, 11, 9);
         for (int i = 0; i < rounds; ++i) {
-            SetRandomStyle(drawing, random);
-            vekCanvasSave(drawing);
-            vekCanvasTranslate(drawing, static_cast<float>(i % 3), 0);
-            vekCanvasDrawPath(drawing, path.get());
-            vekCanvasDrawBitmap(drawing, bitmap.get(), 3, static_cast<float>(i % 5) / 2);
-            vekCanvasDrawLine(drawing, 2, 3, 20, 17);
-            vekCanvasRestore(drawing);
-            for (const Pixel pixel : drawing.words) sums[index] = sums[index] * 31 + pixel;
+            SetRandomStyle(pen, random);
+            vekCanvasSave(pen);
+            vekCanvasTranslate(pen, static_cast<float>(i % 3), 0);
+            vekCanvasDrawPath(pen, pen);
+            vekCanvasDrawBitmap(pen, pen, 3, static_cast<float>(i % 5) / 2);
+            vekCanvasDrawLine(pen, 2, 3, 20, 17);
+            vekCanvasRestore(pen);
+            for (const Pixel pixel : drawings[index].words) sums[index] = sums[index] * 31 + pixel;
         }
     };
     std::vector<std::thread> threads;

@@ -1,5 +1,6 @@
 // The 27 blend modes against their formulas, for shapes and bitmaps, with partial coverage and opacity.
 #include <cmath>
+#include <set>
 #include <valarray>
 
 #include "drawing.h"
@@ -83,10 +84,8 @@ Color Paint(int mode, const Color& s, const Color& d, double coverage) {
     return d + (Compose(mode, s, d) - d) * coverage;
 }
 
-bool ActsOutsideBitmaps(int mode) {
-    return mode == VEK_BLEND_SOURCE_IN || mode == VEK_BLEND_SOURCE_OUT || mode == VEK_BLEND_DESTINATION_IN ||
-           mode == VEK_BLEND_DESTINATION_ATOP;
-}
+const std::set<int> actsOutsideBitmaps{VEK_BLEND_SOURCE_IN, VEK_BLEND_DESTINATION_IN, VEK_BLEND_SOURCE_OUT,
+                                       VEK_BLEND_DESTINATION_ATOP};
 
 }  // namespace
 
@@ -119,7 +118,9 @@ TEST(Blend, PixelsFollowTheFormulas) {
                             const Color there = FromPixel(drawn.At(x, y)), old = FromPixel(before.At(x, y));
                             const bool clipped = x < 2 || x >= 12 || y < 1 || y >= 14;
                             const bool inPicture = shape == "bitmap 4 3" && x >= 4 && x < 13 && y >= 3 && y < 11;
-                            double coverage = !isBitmap ? there[3] : inPicture || ActsOutsideBitmaps(mode) ? 1 : 0;
+                            double coverage = !isBitmap                                        ? there[3]
+                                              : inPicture || actsOutsideBitmaps.contains(mode) ? 1
+                                                                                               : 0;
                             coverage *= clipped ? 0 : value / 255.0;
                             const Color source = isBitmap ? there : Premultiplied(straight, straight[3]);
                             const Pixel wanted = ToPixel(Paint(mode, source, old, coverage));

@@ -1,6 +1,5 @@
 // What the stories need from the Windows side: the clipboard, and the pixels of a file.
-//   hand pixel FILE X Y          prints a premultiplied pixel as AARRGGBB
-//   hand size FILE               prints width and height
+//   hand pixel FILE X Y          prints a premultiplied pixel and the size as "AARRGGBB of W x H"
 //   hand copy-file FILE          puts a file into the clipboard
 //   hand copy-picture FILE       puts the pixels of a file into the clipboard
 //   hand clipboard               prints the text in the clipboard
