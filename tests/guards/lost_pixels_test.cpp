@@ -70,12 +70,10 @@ TEST(MemoryBitmaps, HoldWhatKernelsReadOfThem) {
 TEST(SoftEffects, ChangeNothingWhenMemoryIsShortAtFirst) {
     for (int k = 1; k <= 4; ++k) {
         const OwnedBitmap bitmap = MakeBitmap(9, 7, Pattern{});
-        {
-            Allocations memory(true);
-            memory.FailAt(k);
-            EXPECT_EQ(LightBitmap(bitmap.get()), 1);
-            EXPECT_TRUE(memory.HasFailed());
-        }
+        Allocations memory(true);
+        memory.FailAt(k);
+        EXPECT_EQ(LightBitmap(bitmap.get()), 1);
+        EXPECT_TRUE(memory.HasFailed());
         EXPECT_TRUE(Shows(bitmap.get(), Pattern{})) << "allocation " << k;
     }
 }

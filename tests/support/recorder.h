@@ -23,11 +23,12 @@ public:
     void OnChange(HGBITMAP bitmap, DWORD value) override {
         log += "change " + std::to_string(value) + ";";
         last = bitmap;
+        if (whileChanging) whileChanging();
     }
 
     std::string log;
     HGBITMAP last = nullptr;
-    std::function<void()> whileReleasing;
+    std::function<void()> whileReleasing, whileChanging;
 };
 
 }  // namespace host
