@@ -1,5 +1,6 @@
 // What zorvic32.dll says to its vector backend, as sequences of calls: a recording backend stands in for vekgraphic.dll.
 #include <functional>
+#include <map>
 #include <span>
 
 #include "support/host.h"
@@ -200,14 +201,12 @@ TEST(Sequences, WithoutASurfaceOrABackendNothingIsSaid) {
     const OwnedCanvas onDc(CreateCanvasFromDC(dc)), refused(CreateCanvas(8, 8, nullptr));
     vekRecordedCalls();
     vekRefuseCanvases = 1;
+    const std::map<std::string, double> getters{
+        {"GetBlendMode\n", -1}, {"GetBlendValue\n", 255}, {"GetStrokeWidth\n", 1}};
     for (const HGCANVAS canvas : {onDc.get(), refused.get(), HGCANVAS{}})
         for (const auto& [call, text, result] : sequences) {
-            const double wanted = text == "GetBlendMode\n"     ? -1
-                                  : text == "GetBlendValue\n"  ? 255
-                                  : text == "GetStrokeWidth\n" ? 1
-                                  : result == 1 && canvas      ? 1
-                                                               : 0;
-            EXPECT_EQ(call(canvas), wanted) << text;
+            const bool isGetter = getters.contains(text);
+            EXPECT_EQ(call(canvas), isGetter ? getters.at(text) : result == 1 && canvas) << text;
             std::string calls = vekRecordedCalls();
             while (calls.starts_with("Create\n")) calls.erase(0, 7);
             EXPECT_EQ(calls, "") << text;

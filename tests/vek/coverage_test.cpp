@@ -7,22 +7,14 @@
 using namespace vek_test;
 using std::numbers::pi;
 
-namespace {
-
-void ExpectAreas(const std::vector<std::pair<double, std::string>>& cases) {
-    for (const auto& [area, script] : cases) {
-        Drawing drawing;
-        EXPECT_EQ(Draw(drawing, script), 1) << script;
-        EXPECT_NEAR(drawing.Area(), area, std::max(area / 100, 2.0)) << script;
-    }
-}
-
-}  // namespace
-
-TEST(Coverage, FilledShapesHaveTheirArea) {
+TEST(Coverage, ShapesStrokesAndDashesHaveTheirArea) {
     // The points of a five-pointed star of radius 100 and the corners between them, as ten triangles.
     const double starInner = 100 * std::sin(pi / 10) / std::sin(pi * 0.3);
-    ExpectAreas({
+    const std::string slope = "width 10  line 40 60.5 120 120.5",
+                      corner = "style 1  width 10  L 10 50  L 60 50  L 60 100  path",
+                      shortLine = "  width 4  line 20 100 58 100", line = "  width 4  line 20 100 180 100",
+                      farLine = "  width 4  line -1e6 100 1e6 100";
+    const std::pair<double, std::string> cases[] = {
         {pi * 60.3 * 60.3, "circle 99.6 100.2 60.3"},
         {pi * 70.25 * 20, "ellipse 10.5 20.3 140.5 40"},
         {50.5 * 30.25, "rectangle 10.25 11.6 50.5 30.25"},
@@ -40,16 +32,10 @@ TEST(Coverage, FilledShapesHaveTheirArea) {
         {100 * 200, "circle -1e7 100 1.00001e7"},
         {200 * 200 - 200 * 75, "L 4e6 1000050  L -4e6 4e6  L -4e6 -999950  path"},
         {pi * 40.3 * 40.3, "smooth 0  circle 60 60 40.3"},
-    });
-}
 
-TEST(Coverage, StrokesHaveTheirArea) {
-    const std::string line = "width 10  line 40 60.5 120 120.5",
-                      corner = "style 1  width 10  L 10 50  L 60 50  L 60 100  path";
-    ExpectAreas({
-        {100 * 10, "cap 0  " + line},
-        {100 * 10 + pi * 5 * 5, "cap 1  " + line},
-        {110 * 10, "cap 2  " + line},
+        {100 * 10, "cap 0  " + slope},
+        {100 * 10 + pi * 5 * 5, "cap 1  " + slope},
+        {110 * 10, "cap 2  " + slope},
         {1000, "join 0  " + corner},
         {975 + pi * 5 * 5 / 4, "join 1  " + corner},
         {975 + 0.5 * 5 * 5, "join 2  " + corner},
@@ -67,14 +53,8 @@ TEST(Coverage, StrokesHaveTheirArea) {
         // Between lines that meet at 12 degrees a miter is 9.6 stroke widths long, at 11 degrees it would be 10.4.
         {59, "clip 105 0 200 200  style 1  width 6  L 10 109.4594  L 100 100  L 10 90.5406  path"},
         {0, "clip 105 0 200 200  style 1  width 6  L 10 108.666  L 100 100  L 10 91.334  path"},
-    });
-}
 
-// Dashes are 3, dots and gaps 1 stroke width long, measured when drawn; a pattern is in pixels, from the line's start.
-TEST(Coverage, DashesHaveTheirArea) {
-    const std::string shortLine = "  width 4  line 20 100 58 100", line = "  width 4  line 20 100 180 100",
-                      farLine = "  width 4  line -1e6 100 1e6 100";
-    ExpectAreas({
+        // Dashes are 3, dots and gaps 1 stroke width long, measured when drawn; patterns are in pixels, from the start.
         {9.5 * 16, "dash 0" + shortLine},
         {7.5 * 16, "dash 1" + shortLine},  // ###.###.##
         {5 * 16, "dash 2" + shortLine},    // #.#.#.#.#.
@@ -94,7 +74,12 @@ TEST(Coverage, DashesHaveTheirArea) {
         {200 * 4 * 0.25, "dashes 1e-4 3e-4" + farLine},
         {(70 + 40) * 20, "style 1  width 20  dashes 1e9 1  L -1e6 50  L 60 50  L 60 100  path"},
         {3 * 4, "clip 0 0 13 200  style 1  width 4  dashes 10 10  L -1000007 50  L -500003 50  L 1000007 50  path"},
-    });
+    };
+    for (const auto& [area, script] : cases) {
+        Drawing drawing;
+        EXPECT_EQ(Draw(drawing, script), 1) << script;
+        EXPECT_NEAR(drawing.Area(), area, std::max(area / 100, 2.0)) << script;
+    }
 }
 
 // A figure many times over in one path covers what it covers once, although it takes another way to the pixels.
@@ -130,11 +115,10 @@ TEST(Coverage, WholePixelsAreExact) {
 }
 
 TEST(Coverage, WithoutSmoothingPixelsAreAllOrNothing) {
-    const std::string shapes = "smooth 0  style 0  circle 60 60 40.3  style 1  width 3  line 10 190 190 20  ";
+    const std::string shapes = "smooth 0  style 0  circle 60 60 40.3  style 1  width 3  line 10 190 190 20  ",
+                      frame = "smooth 0  style 1  rectangle 20 30 39 29";
     EXPECT_TRUE(AreTheSame(shapes + shapes, shapes)) << "twice is once";
     // A frame of odd width between pixels runs through the pixels to the right of and below its outline.
-    EXPECT_TRUE(
-        AreTheSame("smooth 0  style 1  width 1  rectangle 20 30 39 29", "fill 20 30 60 60  mode 3  fill 21 31 59 59"));
-    EXPECT_TRUE(
-        AreTheSame("smooth 0  style 1  width 3  rectangle 20 30 39 29", "fill 19 29 61 61  mode 3  fill 22 32 58 58"));
+    EXPECT_TRUE(AreTheSame("width 1  " + frame, "fill 20 30 60 60  mode 3  fill 21 31 59 59"));
+    EXPECT_TRUE(AreTheSame("width 3  " + frame, "fill 19 29 61 61  mode 3  fill 22 32 58 58"));
 }
