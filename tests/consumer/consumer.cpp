@@ -23,8 +23,7 @@ int Listen() {
     UnlockBitmapBits(bitmap, 0x12345678, 1);
     DeleteBitmap(bitmap);
     RegisterD2DResoureMgr(nullptr);
-    if (listener.changed != bitmap || listener.lastValue != 0x12345678) return 2;
-    return listener.released == bitmap ? 0 : 3;
+    return listener.changed == bitmap && listener.lastValue == 0x12345678 && listener.released == bitmap ? 0 : 2;
 }
 
 int DrawLayouts() {

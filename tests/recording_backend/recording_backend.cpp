@@ -32,8 +32,7 @@ Result Recorded(std::string_view name, Args... args) {
     log << name;
     (Write(args), ...);
     log << '\n';
-    if constexpr (std::is_same_v<Result, VekCanvas>)
-        if (vekRefuseCanvases) return nullptr;
+    if (std::is_same_v<Result, VekCanvas> && vekRefuseCanvases) return Result();
     if constexpr (std::is_pointer_v<Result>)
         return reinterpret_cast<Result>(13);  // never used
     else

@@ -32,7 +32,7 @@ TEST(Path, BoundsAreExact) {
     for (const auto& [script, bounds] : cases) {
         Pen pen(nullptr);
         VekBounds got{};
-        EXPECT_EQ(Draw(pen, script) & vekPathGetBounds(pen, &got), 1) << script;
+        EXPECT_TRUE(Draw(pen, script) && vekPathGetBounds(pen, &got)) << script;
         for (const auto side : {&VekBounds::left, &VekBounds::top, &VekBounds::right, &VekBounds::bottom})
             EXPECT_NEAR(got.*side, bounds.*side, std::abs(bounds.*side) * 1e-6F + 2e-6F) << script;
     }
@@ -59,26 +59,16 @@ TEST(Gradient, ColorsAtKnownPlaces) {
         {"radial 100 100 9 100 100 9  " + redToBlue, {{100, 100, 0}}},
         {"linear -3e38 0 3e38 0  " + redToBlue, {{100, 5, 0xFF7F0080}}},
         {linear + redToBlue + "value 128  ", {{100, 5, 0x803F0041}}},
+        // Stops that are added between two drawings.
+        {linear + "style 2  #FFFF0000 stop 0  rectangle 0 0 9 9  #FF0000FF stop 1", {{100, 5, 0xFF7E0081}}},
     };
     for (const auto& [script, places] : cases) {
         Drawing drawing;
-        EXPECT_EQ(Draw(drawing, script + "  style 2  rectangle 0 0 200 200"), 1) << script;
+        // The gradient's handle is gone when the second of these begins.
+        EXPECT_TRUE(Draw(drawing, script) && Draw(drawing, "style 2  rectangle 0 0 200 200")) << script;
         for (const auto& [x, y, color] : places)
             EXPECT_TRUE(IsNear(drawing.At(x, y), color, 2)) << script << " at (" << x << ", " << y << ")";
+        EXPECT_TRUE(vekCanvasSetGradient(drawing, nullptr) && Draw(drawing, "value 255  #FF112233  circle 9 9 9"));
+        EXPECT_EQ(drawing.At(9, 9), 0xFF112233) << script;
     }
-}
-
-TEST(Gradient, OutlivesItsHandleAndTakesLaterStops) {
-    Drawing drawing;
-    {
-        Pen pen(drawing);
-        Draw(pen, "style 2  linear 0 0 100 0  #FFFF0000 stop 0  rectangle 0 0 100 10");
-        EXPECT_TRUE(IsNear(drawing.At(99, 5), 0xFFFF0000, 2));
-        Draw(pen, "#FF0000FF stop 1");
-    }
-    Draw(drawing, "rectangle 0 0 100 10");
-    EXPECT_TRUE(IsNear(drawing.At(50, 5), 0xFF7E0081, 1));
-    vekCanvasSetGradient(drawing, nullptr);
-    Draw(drawing, "#FF112233  rectangle 0 0 100 10");
-    EXPECT_EQ(drawing.At(55, 5), 0xFF112233);
 }
