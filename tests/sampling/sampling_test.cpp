@@ -100,9 +100,10 @@ TEST_F(Sampling, ExtentsBeyond32Bits) {
             source.Fill([](int x, int y) { return static_cast<std::uint32_t>(x + y); });
             const Placement placement = down ? Placement{wide - 1, c.position, wide, c.extent}
                                              : Placement{c.position, wide - 1, c.extent, wide};
+            // Of the smooth ones, only that they stay inside.
             for (const std::uint32_t filterMode : {bilinear, bicubic, area, nearest})
                 SelectPlacedKernel(drawn.Info(), placement, source.Info(), 0, filterMode, 255);
-            EXPECT_EQ(drawn.At(0, 0), c.shown) << "extent " << c.extent << ", nearest";
+            EXPECT_EQ(drawn.At(0, 0), c.shown) << "extent " << c.extent;
         }
 }
 

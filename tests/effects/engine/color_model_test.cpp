@@ -24,8 +24,8 @@ DWORD HslByFractions(DWORD argb) {
     int hue = 170, saturation = 0;
     if (delta > 0) {
         saturation = Rounded(255 * delta / (sum < 255 ? sum : 510 - sum));
-        hue =
-            static_cast<int>(85 * max) + Rounded(42 * (c[max] - last) / delta) - Rounded(42 * (c[max] - next) / delta);
+        hue = static_cast<int>(85 * max);
+        hue += Rounded(42 * (c[max] - last) / delta) - Rounded(42 * (c[max] - next) / delta);
     }
     const int components[4] = {Rounded(sum / 2), saturation, hue, AlphaOf(argb)};
     return FromChannels([&](int i) { return components[i]; });
@@ -41,10 +41,8 @@ DWORD RgbByAngles(DWORD ahsl) {
         float t = h + static_cast<float>(120 * i - 120);
         if (t > 360) t -= 360;
         if (t < 0) t += 360;
-        const float ramp = (q - p) * (t < 60 ? t : 240 - t) / 60 + p, v = t < 60    ? ramp
-                                                                          : t < 180 ? q
-                                                                          : t < 240 ? ramp
-                                                                                    : p;
+        const float ramp = (q - p) * (t < 60 ? t : 240 - t) / 60 + p, lower = t < 240 ? ramp : p;
+        const float v = t >= 60 && t < 180 ? q : lower;
         return static_cast<int>((s == 0 ? l : v) * 255);
     });
 }
