@@ -71,6 +71,7 @@ TEST(Effects, RefuseSurfacesThatCannotBeLocked) {
         GetBitmapHandle(bitmap.get());  // gives the pixels up
         EXPECT_EQ(effect.run(bitmap.get()), effect.alwaysSucceeds) << effect.name;
     }
+    EXPECT_EQ(ColorizeTexture(nullptr, 0, 0, 0), 1) << "nothing to be done";
 }
 
 TEST(Effects, ShuffleAnAreaOnly) {
