@@ -26,8 +26,6 @@ TEST(Model, LiteralPixels) {
         {"key", {unscaled, colorKey}, 0x00123456, 0x87654321, 0x87654321, 0x00123456},
         {"opaque pixel of the key's color", {unscaled, colorKey}, 0xFF123456, 0x87654321, 0xFF123456, 0x00123456},
         {"multiply", {unscaled, multiply}, 0x80808080, 0xFFFFFFFF, 0x80808080},  // 129 * 255 >> 8 = 128
-        {"multiply by 255 and 0", {solid, multiply}, 0xFFFF0000, 0x81828384, 0x81820000},
-        {"or", {solid, bitOr}, 0x0F010000, 0xA0FE00C0, 0xAFFF00C0},
         // (16 + 64 + 64) >> 2 = 36 by 128 is 18, plus half of each color.
         {"gray wash", {solid, grayWash}, 0x80FFFFFF, 0x80402010, 0x8032221A},
         // 255 >> 2 = 63 by 255 is 62; 255 + 62 keeps its low byte.
@@ -37,7 +35,6 @@ TEST(Model, LiteralPixels) {
         {"cross-fade", {unscaled, crossFade}, 0xFFFF0180, 0xFF01FE80, 0xFF807F80, 127},
         {"mix color", {solid, mixColor}, 0xFFFF0180, 0xFF01FE80, 0xFE7F7F80, 127},
         {"cross-fade by 0, of the low byte", {unscaled, crossFade}, 0xFFFF0180, 0xFF01FE80, 0xFF01FE80, 0xABCDEF00},
-        {"make opaque", {solid, makeOpaque}, 0x00000000, 0x12345678, 0xFF345678},
     };
     for (const auto& c : cases) EXPECT_EQ(ResultByModel(c.slot, c.before, c.sample, c.argument), c.after) << c.name;
 }

@@ -1,4 +1,4 @@
-// What every request draws, against the slow model. Fills are tested through the DLL.
+// What every request draws, against the slow model. Other fills are tested through the DLL.
 #include "raster/selectors.h"
 
 #include <optional>
@@ -65,6 +65,11 @@ TEST(Selectors, DrawWhatIsAsked) {
                         << "operation " << operation << ", filter " << filterMode << ", opacity " << int{alpha} << ", "
                         << src.bmBitsPixel << " bits" << (sameSize ? ", same size" : "") << (placed ? ", placed" : "");
                 }
+}
+
+TEST(Selectors, FillNothingWithWhite) {
+    for (const Operation operation : {Operation::multiply, Operation::bitOr})
+        EXPECT_FALSE(ChooseFillKernel(0xFFFFFFFF, operation));
 }
 
 TEST(Selectors, DrawNothingForEmptyImages) {
