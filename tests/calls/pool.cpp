@@ -4,19 +4,22 @@
 #include <cstring>
 #include <sstream>
 
+#include "support/pixel_bytes.h"
+
 namespace calls {
 
 namespace {
 
-constexpr struct {
-    Kind kind;
+// In the order of Kind.
+const struct {
     const char* name;
     int places;
-} kinds[] = {{Kind::bitmap, "bitmap", 5},
-             {Kind::texture, "texture", 5},
-             {Kind::canvas, "canvas", 4},
-             {Kind::path, "path", 2},
-             {Kind::gradient, "gradient", 2}};
+    void (*end)(void* handle);
+} kinds[] = {{"bitmap", 5, [](void* handle) { DeleteBitmap(static_cast<HGBITMAP>(handle)); }},
+             {"texture", 5, [](void* handle) { DeleteTexture(static_cast<HGTEXTURE>(handle)); }},
+             {"canvas", 4, [](void* handle) { DeleteCanvas(static_cast<HGCANVAS>(handle)); }},
+             {"path", 2, [](void* handle) { PathDestroy(static_cast<HGPATH>(handle)); }},
+             {"gradient", 2, [](void* handle) { GradientDestroy(static_cast<HGGRADIENT>(handle)); }}};
 
 BitmapLockInfo Locked(HGBITMAP surface) {
     BitmapLockInfo image{};
@@ -28,9 +31,7 @@ std::size_t RowBytes(const BitmapLockInfo& image) {
     return static_cast<std::size_t>(image.bmWidth) * image.bmBitsPixel / 8;
 }
 
-std::byte* Row(const BitmapLockInfo& image, int y) {
-    return static_cast<std::byte*>(image.bmBits) + static_cast<std::ptrdiff_t>(y) * image.bmWidthBytes;
-}
+std::byte* Row(const BitmapLockInfo& image, int y) { return zorvic::PixelAt(image, 0, y); }
 
 void ReadLastByte(const BitmapLockInfo& image) {
     const volatile std::byte* last = Row(image, image.bmHeight - 1) + RowBytes(image) - 1;
@@ -91,8 +92,11 @@ void Pool::Listener::OnChange(HGBITMAP bitmap, DWORD) {
 Pool::Pool() {
     const host::OwnedBitmap gray = host::MakeBitmap(1, 1, 8);
     grayRamp = Locked(gray.get()).palette;
-    for (const auto& [kind, name, places] : kinds)
-        objects.resize(objects.size() + static_cast<unsigned>(places), {kind});
+    for (const auto& kind : kinds)
+        for (int i = 0; i < kind.places; ++i) {
+            objects.push_back({static_cast<Kind>(&kind - kinds)});
+            names.push_back(kind.name + std::to_string(i));
+        }
     gdiObjects = {nullptr,
                   GetStockObject(BLACK_PEN),
                   GetStockObject(NULL_BRUSH),
@@ -187,18 +191,7 @@ void Pool::Release(Object& object) {
 void Pool::Delete(Object& object) {
     const Object ended = object;
     Release(object);
-    switch (ended.kind) {
-        case Kind::bitmap:
-            return DeleteBitmap(ended.As<HGBITMAP>());
-        case Kind::texture:
-            return DeleteTexture(ended.As<HGTEXTURE>());
-        case Kind::canvas:
-            return DeleteCanvas(ended.As<HGCANVAS>());
-        case Kind::path:
-            return PathDestroy(ended.As<HGPATH>());
-        case Kind::gradient:
-            return GradientDestroy(ended.As<HGGRADIENT>());
-    }
+    kinds[static_cast<std::size_t>(ended.kind)].end(ended.handle);
 }
 
 void Pool::ChangeOperations(Random& random) {
@@ -253,17 +246,9 @@ std::uint64_t Pool::Checksum() const {
 }
 
 std::string Pool::NameOf(const void* handle) const {
-    int number = 0;
-    Kind kind = Kind::bitmap;
-    for (const Object& object : objects) {
-        if (object.kind != kind) number = 0;
-        kind = object.kind;
-        if (handle && object.handle == handle)
-            return std::ranges::find(kinds, kind, &std::remove_reference_t<decltype(kinds[0])>::kind)->name +
-                   std::to_string(number);
-        ++number;
-    }
     if (!handle) return "NULL";
+    const auto place = std::ranges::find(objects, handle, &Object::handle) - objects.begin();
+    if (place < std::ssize(names)) return names[static_cast<std::size_t>(place)];
     std::ostringstream text;
     text << handle;
     return text.str();

@@ -87,6 +87,7 @@ private:
     };
 
     std::vector<Object> objects;
+    std::vector<std::string> names;  // of their places
     Listener listener;
     host::GdiBitmap hostBitmaps[2] = {host::GdiBitmap::Dib(48, 40),
                                       host::GdiBitmap::Dib(30, 20, 24, host::GdiBitmap::RowOrder::bottomUp)};

@@ -13,7 +13,6 @@
 #include <cstring>
 #include <mutex>
 #include <unordered_map>
-#include <vector>
 
 #include "support/host.h"
 #include "support/import_table.h"
@@ -25,11 +24,10 @@ namespace {
 using Kind = Allocations::Kind;
 using Lock = std::lock_guard<std::mutex>;
 
-// What a block of memory is: the C runtime's own unless it has pages.
+// The C runtime's own unless it has pages.
 struct Block {
     std::size_t size = 0;
     std::size_t pages = 0;
-    bool aligned = false;  // by _aligned_malloc
 };
 
 struct Ledger {
@@ -84,7 +82,6 @@ void FreeFencedBlock(Ledger& books, void* block, const Block& was) {
 }
 
 // The functions of the C runtime as one DLL calls them; this program calls the same ones.
-template <Kind kind>
 struct BlockHooks {
     static void* New(std::size_t size, std::size_t alignment) {
         Ledger& books = Books();
@@ -93,26 +90,25 @@ struct BlockHooks {
             return nullptr;
         }
         const Lock lock(books.mutex);
-        Block made{size, books.fences ? host::PagesFor(size) : 0, alignment != 0};
-        void* const block = made.pages
-                                ? NewFencedBlock(books, size, alignment ? alignment : AlignmentFor(size), made.pages)
-                            : alignment ? _aligned_malloc(size, alignment)
-                                        : std::malloc(size);
-        if (block) books.Live(kind)[block] = made;
+        const Block made{size, books.fences ? host::PagesFor(size) : 0};
+        void* const block =
+            made.pages ? NewFencedBlock(books, size, alignment, made.pages) : _aligned_malloc(size, alignment);
+        if (block) books.Live(Kind::block)[block] = made;
         return block;
     }
 
     static void Free(void* block) {
         Ledger& books = Books();
         const Lock lock(books.mutex);
-        const auto entry = books.Live(kind).extract(block);
-        const Block was = entry ? entry.mapped() : Block{};
-        if (was.pages) return FreeFencedBlock(books, block, was);
-        was.aligned ? _aligned_free(block) : std::free(block);
+        const auto entry = books.Live(Kind::block).extract(block);
+        if (!entry) return std::free(block);
+        entry.mapped().pages ? FreeFencedBlock(books, block, entry.mapped()) : _aligned_free(block);
     }
 
-    static void* Malloc(std::size_t size) { return New(std::max<std::size_t>(size, 1), 0); }
-    static void* AlignedMalloc(std::size_t size, std::size_t alignment) { return New(size, alignment); }
+    static void* Malloc(std::size_t size) {
+        size = std::max<std::size_t>(size, 1);
+        return New(size, Books().fences ? AlignmentFor(size) : 16);
+    }
 
     static void* Calloc(std::size_t count, std::size_t size) {
         if (size != 0 && count > PTRDIFF_MAX / size) return nullptr;
@@ -126,8 +122,9 @@ struct BlockHooks {
         std::size_t formerSize;
         {
             const Lock lock(Books().mutex);
-            const auto found = Books().Live(kind).find(block);
-            if (found == Books().Live(kind).end()) return std::realloc(block, size);
+            const auto& live = Books().Live(Kind::block);
+            const auto found = live.find(block);
+            if (found == live.end()) return std::realloc(block, size);
             formerSize = found->second.size;
         }
         void* const moved = size ? Malloc(size) : nullptr;
@@ -164,7 +161,7 @@ auto Count(Function real, Args... args) {
     } else if constexpr (does == Does::makes) {
         const auto made = real(args...);
         const Lock lock(Books().mutex);
-        if (made) Books().Live(kind)[made] = {};
+        if (made) Books().Live(kind)[made];
         return made;
     } else {
         {
@@ -210,18 +207,6 @@ Hook Of() {
     return {name.text, reinterpret_cast<void*>(&Hooked::Hook), reinterpret_cast<void**>(&Hooked::real)};
 }
 
-template <Kind kind>
-void HookBlocks(const PeImage& module) {
-    using Hooks = BlockHooks<kind>;
-    const Hook hooks[] = {{"malloc", reinterpret_cast<void*>(Hooks::Malloc)},
-                          {"calloc", reinterpret_cast<void*>(Hooks::Calloc)},
-                          {"realloc", reinterpret_cast<void*>(Hooks::Realloc)},
-                          {"free", reinterpret_cast<void*>(Hooks::Free)},
-                          {"_aligned_malloc", reinterpret_cast<void*>(Hooks::AlignedMalloc)},
-                          {"_aligned_free", reinterpret_cast<void*>(Hooks::Free)}};
-    for (const Hook& hook : hooks) hook.Put(module);
-}
-
 void PutHooks() {
     constexpr auto makes = Does::makes;
     constexpr auto ends = Does::ends;
@@ -229,7 +214,6 @@ void PutHooks() {
     const Hook hooks[] = {
         Of<"CreateDIBSection", makes, Kind::gdiObject, decltype(CreateDIBSection)>(),
         Of<"CreateRectRgn", makes, Kind::gdiObject, decltype(CreateRectRgn)>(),
-        Of<"CreateRectRgnIndirect", makes, Kind::gdiObject, decltype(CreateRectRgnIndirect)>(),
         Of<"ExtCreateRegion", makes, Kind::gdiObject, decltype(ExtCreateRegion)>(),
         Of<"ExtCreatePen", makes, Kind::gdiObject, decltype(ExtCreatePen)>(),
         deleteObject,
@@ -252,8 +236,14 @@ void PutHooks() {
     for (const Hook& hook : hooks) hook.Put(library);
     // Regions are the host's to delete.
     deleteObject.Put(PeImage(GetModuleHandleW(nullptr)));
-    HookBlocks<Kind::block>(library);
-    HookBlocks<Kind::backendBlock>(backend);
+    const Hook blockHooks[] = {{"malloc", reinterpret_cast<void*>(BlockHooks::Malloc)},
+                               {"calloc", reinterpret_cast<void*>(BlockHooks::Calloc)},
+                               {"realloc", reinterpret_cast<void*>(BlockHooks::Realloc)},
+                               {"free", reinterpret_cast<void*>(BlockHooks::Free)},
+                               {"_aligned_malloc", reinterpret_cast<void*>(BlockHooks::New)},
+                               {"_aligned_free", reinterpret_cast<void*>(BlockHooks::Free)}};
+    for (const Hook& hook : blockHooks)
+        for (const PeImage& module : {library, backend}) hook.Put(module);
 }
 
 // Instead of a debugger that waits for somebody.
@@ -291,8 +281,7 @@ void Allocations::Restart() { before = Living(); }
 
 std::string Allocations::Outstanding() const {
     static constexpr const char* names[kinds] = {
-        "blocks",          "blocks of the backend", "GDI objects", "device contexts",
-        "backend bitmaps", "backend canvases",      "paths",       "gradients"};
+        "blocks", "GDI objects", "device contexts", "backend bitmaps", "backend canvases", "paths", "gradients"};
     const Counts now = Living();
     std::string text;
     for (std::size_t i = 0; i < kinds; ++i)

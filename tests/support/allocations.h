@@ -32,17 +32,7 @@ public:
     // What the program is doing, for the report of a crash on fenced memory; may be null.
     static inline std::string (*doing)() = nullptr;
 
-    enum class Kind {
-        block,
-        backendBlock,
-        gdiObject,
-        deviceContext,
-        backendBitmap,
-        backendCanvas,
-        path,
-        gradient,
-        none
-    };
+    enum class Kind { block, gdiObject, deviceContext, backendBitmap, backendCanvas, path, gradient, none };
     static constexpr auto kinds = static_cast<std::size_t>(Kind::none);
 
 private:

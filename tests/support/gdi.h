@@ -11,12 +11,7 @@ public:
     enum class RowOrder { topDown, bottomUp };
 
     static GdiBitmap Dib(int width, int height, int bitsPixel = 32, RowOrder order = RowOrder::topDown) {
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = order == RowOrder::topDown ? -height : height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = static_cast<WORD>(bitsPixel);
+        const BITMAPINFO info = Description(width, order == RowOrder::topDown ? -height : height, bitsPixel);
         return GdiBitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, nullptr, nullptr, 0), width, height);
     }
     // A device-dependent bitmap: its pixels have no address.
@@ -42,17 +37,12 @@ public:
     // The pixels as a top-down 32-bit picture; what the bitmap's depth cannot hold is lost, alpha first.
     template <class Picture>
     void Fill(Picture picture) const {
-        const OwnedBitmap copy = MakeBitmap(width, height, picture);
-        BITMAPINFO info = TopDown();
-        const Unselected unselected(*this);
-        EXPECT_EQ(SetDIBits(dc, handle, 0, Rows(), Pixels(copy.get())->bmBits, &info, DIB_RGB_COLORS), height);
+        Transfer(SetDIBits, MakeBitmap(width, height, picture));
     }
     // A copy of them: Shows(gdiBitmap.Shown().get(), picture).
     OwnedBitmap Shown() const {
         OwnedBitmap copy = MakeBitmap(width, height);
-        BITMAPINFO info = TopDown();
-        const Unselected unselected(*this);
-        EXPECT_EQ(GetDIBits(dc, handle, 0, Rows(), Pixels(copy.get())->bmBits, &info, DIB_RGB_COLORS), height);
+        Transfer(GetDIBits, copy);
         return copy;
     }
 
@@ -63,29 +53,23 @@ private:
         EXPECT_NE(previousObject, nullptr) << "no GDI bitmap";
     }
 
-    // GDI transfers the pixels of bitmaps that no device context has selected.
-    class Unselected {
-    public:
-        explicit Unselected(const GdiBitmap& gdiBitmap) : bitmap(gdiBitmap) {
-            SelectObject(bitmap.dc, bitmap.previousObject);
-        }
-        ~Unselected() { SelectObject(bitmap.dc, bitmap.handle); }
-        Unselected(const Unselected&) = delete;
-        Unselected& operator=(const Unselected&) = delete;
-
-    private:
-        const GdiBitmap& bitmap;
-    };
-
-    UINT Rows() const { return static_cast<UINT>(height); }
-    BITMAPINFO TopDown() const {
+    static BITMAPINFO Description(int width, int height, int bitsPixel) {
         BITMAPINFO info{};
         info.bmiHeader.biSize = sizeof info.bmiHeader;
         info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = -height;
+        info.bmiHeader.biHeight = height;
         info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
+        info.bmiHeader.biBitCount = static_cast<WORD>(bitsPixel);
         return info;
+    }
+
+    // GDI transfers the pixels of bitmaps that no device context has selected.
+    void Transfer(auto function, const OwnedBitmap& copy) const {
+        BITMAPINFO info = Description(width, -height, 32);
+        void* const bits = Pixels(copy.get())->bmBits;
+        SelectObject(dc, previousObject);
+        EXPECT_EQ(function(dc, handle, 0, static_cast<UINT>(height), bits, &info, DIB_RGB_COLORS), height);
+        SelectObject(dc, handle);
     }
 
     HBITMAP handle;

@@ -23,21 +23,12 @@ public:
     // Half of the pixels are transparent or opaque; the others are premultiplied or, as hosts err, not.
     std::uint32_t Pixel() {
         const std::uint32_t word = Word();
-        switch (Below(8)) {
-            case 0:
-                return 0;
-            case 1:
-                return 0xFFFFFFFF;
-            case 2:
-                return word | 0xFF000000;
-            case 3:
-                return word & 0x00FFFFFF;
-            case 4:
-            case 5:
-                return word;
-            default:
-                return Premultiplied(word);
-        }
+        const int kind = Below(8);
+        if (kind == 0) return 0;
+        if (kind == 1) return 0xFFFFFFFF;
+        if (kind == 2) return word | 0xFF000000;
+        if (kind == 3) return word & 0x00FFFFFF;
+        return kind < 6 ? word : Premultiplied(word);
     }
 
 private:
