@@ -57,6 +57,24 @@ const Scenario scenarios[] = {
          return DrawEllipse(canvas.get(), 3, 3, 1e6F, 1e6F) == 1;
      },
      70000},
+    {"gradients, dashes and slices",
+     [] {
+         const OwnedCanvas canvas(CreateCanvas(9, 7, nullptr));
+         const OwnedTexture texture(CreateTexture(9, 7));
+         const Ending<HGGRADIENT, GradientDestroy> gradient(GradientCreateLinear(0, 0, 9, 0));
+         SetGradient(canvas.get(), gradient.get());
+         SetDrawStyle(canvas.get(), VEK_DRAW_GRADIENT);
+         SetBlendMode(canvas.get(), VEK_BLEND_SCREEN);
+         SetBlendValue(canvas.get(), 150);
+         if (!GradientAddColorStop(gradient.get(), 0, 0xFF00FF00) || !DrawEllipse(canvas.get(), 1, 1, 6, 5) ||
+             !FillGradualRect(canvas.get(), 0xFF102030, 0x40FFFFFF, &all, ZORVIC_GRADUAL_LEFT_TO_RIGHT))
+             return false;
+         SetDrawStyle(canvas.get(), VEK_DRAW_STROKE);
+         SetDashStyle(canvas.get(), VEK_DASH_DASH_DOT);
+         const RECT slices[] = {all, part, part};
+         return DrawEllipse(canvas.get(), 1, 1, 6, 5) && SetTextureSlice(texture.get(), 3, slices) == 3;
+     },
+     70000},
     {"layers of the backend",
      [] {
          DWORD pixels[100] = {};
