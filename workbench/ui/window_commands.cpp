@@ -13,6 +13,21 @@ namespace {
 
 std::wstring FileName(const std::wstring& path) { return path.substr(path.find_last_of(L"/\\") + 1); }
 
+// The file that the user chooses in one of the system's dialogs; empty for none.
+std::wstring AskForFile(BOOL(WINAPI* ask)(OPENFILENAMEW*), HWND owner, const wchar_t* filter, DWORD flags,
+                        const wchar_t* extension) {
+    wchar_t file[MAX_PATH]{};
+    OPENFILENAMEW record{};
+    record.lStructSize = sizeof record;
+    record.hwndOwner = owner;
+    record.lpstrFilter = filter;
+    record.lpstrFile = file;
+    record.nMaxFile = MAX_PATH;
+    record.lpstrDefExt = extension;
+    record.Flags = flags | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_DONTADDTORECENT;
+    return ask(&record) ? file : L"";
+}
+
 }  // namespace
 
 void Window::Open(OpenJob job) {
@@ -22,29 +37,15 @@ void Window::Open(OpenJob job) {
 }
 
 void Window::AskOpen() {
-    wchar_t file[MAX_PATH]{};
-    OPENFILENAMEW ask{};
-    ask.lStructSize = sizeof ask;
-    ask.hwndOwner = handle;
-    ask.lpstrFilter = L"Pictures\0*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff;*.ico\0All files\0*.*\0";
-    ask.lpstrFile = file;
-    ask.nMaxFile = MAX_PATH;
-    ask.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_DONTADDTORECENT;
-    if (GetOpenFileNameW(&ask)) Open({file, {}});
+    constexpr wchar_t pictures[] = L"Pictures\0*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff;*.ico\0All files\0*.*\0";
+    const std::wstring file = AskForFile(GetOpenFileNameW, handle, pictures, OFN_FILEMUSTEXIST, nullptr);
+    if (!file.empty()) Open({file, {}});
 }
 
 void Window::AskSave() {
     if (!document.HasPicture()) return;
-    wchar_t file[MAX_PATH]{};
-    OPENFILENAMEW ask{};
-    ask.lStructSize = sizeof ask;
-    ask.hwndOwner = handle;
-    ask.lpstrFilter = L"PNG\0*.png\0";
-    ask.lpstrFile = file;
-    ask.nMaxFile = MAX_PATH;
-    ask.lpstrDefExt = L"png";
-    ask.Flags = OFN_OVERWRITEPROMPT | OFN_NOCHANGEDIR | OFN_DONTADDTORECENT;
-    if (GetSaveFileNameW(&ask)) worker->Save({file, document.Now()});
+    const std::wstring file = AskForFile(GetSaveFileNameW, handle, L"PNG\0*.png\0", OFN_OVERWRITEPROMPT, L"png");
+    if (!file.empty()) worker->Save({file, document.Now()});
 }
 
 void Window::Paste() {
