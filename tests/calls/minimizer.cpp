@@ -18,8 +18,11 @@ struct Outcome {
     bool failed;
     std::string output;
 
-    // From the last of these words on.
-    std::string Last(const char* words) const { return output.substr(output.rfind(words)); }
+    // From the last of these words on; all of it without them.
+    std::string Last(const char* words) const {
+        const std::size_t at = output.rfind(words);
+        return at == output.npos ? "ended without a word: " + output : output.substr(at);
+    }
 };
 
 // Runs this program with other arguments.
@@ -62,6 +65,7 @@ std::string FaultOfSeeds(int first, int end, const std::string& mode) {
     const Outcome all = RunSelf(mode + " --seeds" + RangeText(first, end));
     if (!all.failed) return {};
     const std::string fault = all.Last("seed ");
+    if (!fault.starts_with("seed ")) return fault;
     const int seed = std::stoi(fault.substr(5));
     const std::string replay = mode + ReplayText(seed, FewestCalls(seed, mode));
     const Outcome last = RunSelf(replay);
