@@ -79,14 +79,15 @@ TEST(AllBytes, BlendedAndRounded) {
         [](std::uint32_t d, std::uint32_t s, std::uint32_t) { return host::SlowBlend(s, d); });
 }
 
-// From palettes and 24-bit pixels as from the same pixels in 32 bits.
+// From palettes and 24-bit pixels as from the same pixels in 32 bits, with every rest of a vector.
 TEST(DrawingInAColor, KnowsEveryDepth) {
     Random random(1);
     for (const Level level : Levels())
-        for (const int depth : {8, 24})
+        for (int i = 0; i < 128; ++i)
             for (const std::uint32_t color : {0xFF20C0F0U, 0x80FF0013U}) {
-                const Image src(random, 37, 3, depth);
-                Image got(random, 37, 3), wanted = got;
+                const int width = 1 + i / 2, depth = i % 2 == 0 ? 8 : 24;
+                const Image src(random, width, 3, depth);
+                Image got(random, width, 3), wanted = got;
                 wanted.Fill([&](int x, int y) {
                     return host::SlowInColor(SourceColor(src.Info(), x, y), got.At(x, y), color);
                 });

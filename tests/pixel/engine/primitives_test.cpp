@@ -1,6 +1,5 @@
 // The primitives in every form against one pixel and one byte at a time: all widths to 70 and some large ones, rows at odd
-// distances and addresses, guard bytes, an inaccessible page behind the last row, and images that overlap. Those that are
-// kernels as well are compared with the other kernels.
+// distances and addresses, guard bytes, an inaccessible page behind the last row, and images that overlap.
 #include "pixel/primitive_set.h"
 
 #include <algorithm>
@@ -21,7 +20,16 @@ TargetPixels TargetOf(const Image& image, bool upwards = false) {
 }
 SIZE SizeOf(const Image& image) { return {image.Info().bmWidth, image.Info().bmHeight}; }
 
-// What a primitive does to a pixel d, given the source's pixel and a value.
+// The words are added.
+DWORD Composed(DWORD d, DWORD s, int opacity = 255) {
+    const auto scaled = [](DWORD pixel, int k) {
+        return host::FromChannels([=](int i) { return host::Channel(pixel, i) * k / 256; });
+    };
+    s = scaled(s, opacity + 1);
+    return s + scaled(d, 256 - host::AlphaOf(s));
+}
+
+// What a primitive does to a pixel d, given the source's pixel and a value: a color, or an opacity in its first byte.
 const struct {
     const char* name;
     Status (*run)(SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t value);
@@ -29,11 +37,24 @@ const struct {
 } cases[] = {
     {"copy", [](SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t) { return CopyPixels(src, dst, size, 4); },
      [](DWORD, DWORD s, DWORD) { return s; }},
+    {"set", [](SourcePixels, TargetPixels dst, SIZE size, std::uint32_t value) { return SetPixels(dst, size, value); },
+     [](DWORD, DWORD, DWORD value) { return value; }},
     {"set colors",
      [](SourcePixels, TargetPixels dst, SIZE size, std::uint32_t value) { return SetPixelColors(dst, size, value); },
      [](DWORD d, DWORD, DWORD value) -> DWORD { return d >> 24 << 24 | (value & 0xFFFFFF); }},
     {"blend", [](SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t) { return BlendPixels(src, dst, size); },
      [](DWORD d, DWORD s, DWORD) { return host::SlowBlend(s, d); }},
+    {"compose",
+     [](SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t) { return ComposePixels(src, dst, size); },
+     [](DWORD d, DWORD s, DWORD) { return Composed(d, s); }},
+    {"compose at an opacity",
+     [](SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t value) {
+         return ComposePixels(src, dst, size, static_cast<std::uint8_t>(value));
+     },
+     [](DWORD d, DWORD s, DWORD value) { return Composed(d, s, static_cast<int>(value & 0xFF)); }},
+    {"compose a color",
+     [](SourcePixels, TargetPixels dst, SIZE size, std::uint32_t value) { return ComposeColor(value, dst, size); },
+     [](DWORD d, DWORD, DWORD value) { return Composed(d, value); }},
     {"or", OrPixels, [](DWORD, DWORD s, DWORD value) { return s | value; }},
     {"and", AndPixels, [](DWORD, DWORD s, DWORD value) { return s & value; }},
 };
@@ -46,7 +67,7 @@ Image RandomImage(Random& random, int width, int height) {
 }
 
 std::vector<int> Widths() {
-    std::vector<int> widths{127, 255, 256, 257, 1000};
+    std::vector<int> widths{127, 255, 256, 257, 9000};
     for (int width = 1; width <= 70; ++width) widths.push_back(width);
     return widths;
 }
