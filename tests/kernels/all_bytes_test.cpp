@@ -79,15 +79,16 @@ TEST(AllBytes, BlendedAndRounded) {
         [](std::uint32_t d, std::uint32_t s, std::uint32_t) { return host::SlowBlend(s, d); });
 }
 
-// From palettes and 24-bit pixels as from the same pixels in 32 bits, with every rest of a vector.
+// With every rest of a vector, and rows that do not follow one another.
 TEST(DrawingInAColor, KnowsEveryDepth) {
+    constexpr int depths[] = {8, 24, 32};
     Random random(1);
     for (const Level level : Levels())
-        for (int i = 0; i < 128; ++i)
+        for (int i = 0; i < 192; ++i)
             for (const std::uint32_t color : {0xFF20C0F0U, 0x80FF0013U}) {
-                const int width = 1 + i / 2, depth = i % 2 == 0 ? 8 : 24;
+                const int width = 1 + i / 3, depth = depths[i % 3];
                 const Image src(random, width, 3, depth);
-                Image got(random, width, 3), wanted = got;
+                Image got(random, width, 3, 32, {random.Below(2) * random.Below(9)}), wanted = got;
                 wanted.Fill([&](int x, int y) {
                     return host::SlowInColor(SourceColor(src.Info(), x, y), got.At(x, y), color);
                 });
