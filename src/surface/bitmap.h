@@ -45,8 +45,8 @@ public:
     HBITMAP ToSystem();
 
     DWORD filter = 0;  // the operation word
-    // Whether the host may delete it. Not a canvas's surface, which comes into its hands, nor what goes already, while the
-    // resource manager is told.
+    // Whether the host may delete it. Not the surface of a canvas, although GetBitmap hands it out, nor a bitmap of whose
+    // end the resource manager is just being told.
     bool isHosts = true;
 
 private:

@@ -66,7 +66,9 @@ bool HasFault(const char* what, int first, int end, const std::function<std::str
 int main(int argc, char** argv) {
     std::vector<std::string> words(argv + 1, argv + argc);
     const auto take = [&words](const char* word) {
-        return !words.empty() && words[0] == word && words.erase(words.begin()) != words.end();
+        if (words.empty() || words[0] != word) return false;
+        words.erase(words.begin());
+        return true;
     };
     if (take(intoLog)) std::freopen(LogPath().c_str(), "w", stdout);
     Replay replay;
