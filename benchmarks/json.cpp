@@ -43,6 +43,11 @@ void WriteJson(const Report& report, std::ostream& out) {
         WriteResult(report, report.results[i], out);
         out << (i + 1 < report.results.size() ? ",\n" : "\n");
     }
+    out << "  ],\n  \"extremeCalls\": [\n";
+    for (std::size_t i = 0; i < report.extremes.size(); ++i)
+        out << "    {\"call\": " << Quoted(report.extremes[i].name)
+            << ", \"milliseconds\": " << report.extremes[i].milliseconds << '}'
+            << (i + 1 < report.extremes.size() ? ",\n" : "\n");
     out << "  ]\n}\n";
 }
 

@@ -95,7 +95,7 @@ Report Run(const Options& options) {
     const Rounds rounds = options.quick ? Rounds{9, 0.0004} : Rounds{31, 0.0008};
     const std::vector<SIZE> sizes =
         options.quick ? std::vector<SIZE>{{512, 512}} : std::vector<SIZE>{{64, 64}, {512, 512}, {1920, 1080}};
-    Report report{ProcessorName(), options.form, {}};
+    Report report{ProcessorName(), options.form, {}, {}};
     for (const Row& row : AllRows()) {
         if (TitleOf(row).find(options.only) == std::string::npos) continue;
         const std::vector<SIZE> own{{row.drawnSize, row.drawnSize}};
@@ -105,7 +105,9 @@ Report Run(const Options& options) {
         }
         std::fprintf(stderr, "measured: %s\n", TitleOf(row).c_str());
     }
-    if (report.results.empty()) throw std::invalid_argument("no operation has \"" + options.only + "\" in its name");
+    if (options.form.empty()) report.extremes = MeasureExtremeCalls(options.only);
+    if (report.results.empty() && report.extremes.empty())
+        throw std::invalid_argument("no operation has \"" + options.only + "\" in its name");
     return report;
 }
 
@@ -125,6 +127,7 @@ int main(int count, char** words) {
         const Report report = Run(options);
         PrintTable(report);
         PrintTargets(report);
+        PrintExtremes(report);
         WriteFile(options.json, report, WriteJson);
         WriteFile(options.svg, report, WriteChart);
     } catch (const std::exception& failure) {

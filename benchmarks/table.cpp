@@ -69,4 +69,11 @@ void PrintTargets(const Report& report) {
     std::printf("%d of %d targets met\n", met, all);
 }
 
+void PrintExtremes(const Report& report) {
+    if (report.extremes.empty()) return;
+    std::printf("\n%-51s %9s  at most %.0f\n", "one call with extreme numbers, 1920 x 1080", "ms", mostMilliseconds);
+    for (const ExtremeResult& result : report.extremes)
+        std::printf("%-51s %9.1f  %s\n", result.name, result.milliseconds, result.IsMet() ? "yes" : "no");
+}
+
 }  // namespace bench
