@@ -34,7 +34,7 @@ struct Ledger {
     std::mutex mutex;                                                 // of all below
     std::unordered_map<const void*, Block> live[Allocations::kinds];  // by address or handle
     bool fences = false;
-    long long calls = 0, failFrom = LLONG_MAX, failTo = LLONG_MAX;
+    long long calls = 0, bytes = 0, failFrom = LLONG_MAX, failTo = LLONG_MAX;
     host::PageSlots slots;
 
     std::unordered_map<const void*, Block>& Live(Kind kind) { return live[static_cast<std::size_t>(kind)]; }
@@ -90,6 +90,7 @@ struct BlockHooks {
             return nullptr;
         }
         const Lock lock(books.mutex);
+        books.bytes += static_cast<long long>(size);
         const Block made{size, books.fences ? host::PagesFor(size) : 0};
         void* const block =
             made.pages ? NewFencedBlock(books, size, alignment, made.pages) : _aligned_malloc(size, alignment);
@@ -310,6 +311,11 @@ void Allocations::FailAt(int k, int howMany) {
 bool Allocations::HasFailed() const {
     const Lock lock(Books().mutex);
     return Books().calls >= Books().failFrom;
+}
+
+Allocations::Amounts Allocations::Requested() {
+    const Lock lock(Books().mutex);
+    return {Books().calls, Books().bytes};
 }
 
 Allocations::Counts Allocations::Living() {

@@ -29,6 +29,12 @@ public:
     void FailAt(int k, int howMany = 1);
     bool HasFailed() const;
 
+    // What has been asked for since the program began: allocations of every kind, and the bytes of memory.
+    struct Amounts {
+        long long allocations = 0, bytes = 0;
+    };
+    static Amounts Requested();
+
     // What the program is doing, for the report of a crash on fenced memory; may be null.
     static inline std::string (*doing)() = nullptr;
 
