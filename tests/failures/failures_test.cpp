@@ -5,6 +5,7 @@
 #include "calls/table.h"
 #include "failures/scenarios.h"
 #include "support/allocations.h"
+#include "support/amount.h"
 #include "vek/vekgraphic.h"
 
 namespace failures {
@@ -13,7 +14,7 @@ using namespace calls;
 
 namespace {
 
-constexpr int seeds = 12;  // calls of each export
+const int seeds = zorvic::Amount(4, 12);  // calls of each export
 
 // Whether all pixels are as one or the other, or every byte on its way: outlines may be drawn in part.
 bool IsBetween(const std::vector<std::byte>& got, const std::vector<std::byte>& from,
@@ -27,6 +28,8 @@ bool IsBetween(const std::vector<std::byte>& got, const std::vector<std::byte>& 
     }
     return true;
 }
+
+}  // namespace
 
 class AllocationFailures : public testing::Test {
 protected:
@@ -93,8 +96,6 @@ protected:
 
     Allocations allocations{true};
 };
-
-}  // namespace
 
 TEST_F(AllocationFailures, OfScenariosLeakNothing) {
     for (const Scenario& scenario : Scenarios()) {

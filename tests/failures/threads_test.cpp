@@ -3,6 +3,7 @@
 
 #include "calls/table.h"
 #include "support/allocations.h"
+#include "support/amount.h"
 
 namespace failures {
 
@@ -10,7 +11,8 @@ using namespace calls;
 
 namespace {
 
-constexpr int threads = 16, rounds = 8192;
+constexpr int threads = 16;
+const int rounds = zorvic::Amount(1024, 8192);
 
 // Random calls of all exports but the two that change a setting of the whole process; the sum of what they return and of
 // all pixels.

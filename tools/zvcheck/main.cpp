@@ -2,15 +2,19 @@
 // numbered cases everywhere; see docs/64-bit.md.
 //   zvcheck                        1,000 cases of each slot; writes the table of checksums to standard output
 //   zvcheck TABLE.txt              compares with the table of another machine instead of printing one
-//   zvcheck --cases N [TABLE.txt]  so many cases; from 100,000 on the table has a second column
+//   zvcheck --cases N [TABLE.txt]  so many cases; the table has a second column from 10,000 on, a third from 100,000 on
+//   zvcheck --soak-cases N ...     so many instead where the environment says ZORVIC_SOAK=1
 //   zvcheck --slot S [--cases N]   this slot's cases
 //   zvcheck --slot S --case N      one case: what it is, and which form differs where
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <memory>
 
+#include "support/amount.h"
 #include "table.h"
 
 #ifdef _WIN32
@@ -81,7 +85,7 @@ int CheckCases(int slot, int cases, const char* tableFile) {
         for (int i = 0; i < cases; ++i) {
             checker->Prepare(i);
             checker->RunForms();
-            if (i + 1 == fewCases || i + 1 == manyCases) checksums.push_back(checker->Checksum());
+            if (std::count(std::begin(columns), std::end(columns), i + 1) > 0) checksums.push_back(checker->Checksum());
         }
         table.push_back(LineOf(subject, checksums));
         if (tableFile == nullptr) std::printf("%s\n", table.back().c_str());
@@ -104,7 +108,8 @@ int TakeNumber(std::vector<const char*>& arguments, const char* option, int othe
 }
 
 int Run(std::vector<const char*> arguments) {
-    const int cases = TakeNumber(arguments, "--cases", fewCases);
+    const int usual = TakeNumber(arguments, "--cases", columns[0]);
+    const int cases = Amount(usual, TakeNumber(arguments, "--soak-cases", usual));
     const int slot = TakeNumber(arguments, "--slot", -1), caseNumber = TakeNumber(arguments, "--case", -1);
     const bool hasTable = arguments.size() == 1 && arguments[0][0] != '-' && slot < 0;
     if ((!arguments.empty() && !hasTable) || (caseNumber >= 0 && slot < 0)) {

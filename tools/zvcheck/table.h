@@ -1,4 +1,4 @@
-// The table of checksums: a line for each subject, with a column for each of these numbers of cases.
+// The table of checksums: a line for each subject, with a column for each number of cases in `columns`.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace zorvic {
 
-inline constexpr int fewCases = 1000, manyCases = 100'000;
+inline constexpr int columns[] = {1000, 10'000, 100'000};
 
 using Table = std::vector<std::string>;
 
