@@ -1,9 +1,9 @@
 # What holds for every target: language, arithmetic, warnings, sanitizers and where the products go.
 option(ZORVIC_WERROR "Treat warnings as errors" OFF)
 option(ZORVIC_BUILD_TESTS "Build the tests" ON)
+option(ZORVIC_BUILD_SHOWCASE "Build the gallery and the workbench" ON)
 option(ZORVIC_BUILD_BENCH "Build zvbench, which measures the library" ON)
 option(ZORVIC_BUILD_FUZZ "Build the fuzz targets (clang only)" OFF)
-set(ZORVIC_FUZZ_SECONDS 60 CACHE STRING "How long CTest runs each fuzz target")
 set(ZORVIC_SANITIZE "" CACHE STRING "Sanitizers for every target, as in -fsanitize=")
 option(ZORVIC_COVERAGE "Have the libraries count which of their lines run" OFF)
 set(ZORVIC_GOOGLETEST_DIR "/usr/src/googletest" CACHE PATH "GoogleTest's sources, built together with the tests")
@@ -54,8 +54,10 @@ add_library(zorvic_warnings INTERFACE)
 if(MSVC)
     target_compile_options(zorvic_warnings INTERFACE /W4 /wd4068 /wd5030 $<$<BOOL:${ZORVIC_WERROR}>:/WX>)
 else()
+    # Where files are compiled together, one file's names may be those of locals in the next.
+    set(together "$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>")
     target_compile_options(zorvic_warnings INTERFACE
-        -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wundef -Wvla -Wimplicit-fallthrough
+        -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow$<${together}:=local> -Wundef -Wvla -Wimplicit-fallthrough
         $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual -Wextra-semi>
         $<$<BOOL:${ZORVIC_WERROR}>:-Werror>)
 endif()

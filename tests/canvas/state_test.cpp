@@ -7,7 +7,7 @@ using namespace host;
 
 namespace {
 
-constexpr int width = 40, height = 30;
+constexpr int canvasWidth = 40, canvasHeight = 30;
 
 RECT Moved(const RECT& rect, LONG dx, LONG dy) {
     return {rect.left + dx, rect.top + dy, rect.right + dx, rect.bottom + dy};
@@ -20,7 +20,7 @@ RECT Common(const RECT& a, const RECT& b) {
 
 struct Model {
     POINT viewport{}, window{};
-    RECT clip{0, 0, width, height};  // surface pixels
+    RECT clip{0, 0, canvasWidth, canvasHeight};  // surface pixels
 
     RECT ToDevice(const RECT& rect) const { return Moved(rect, viewport.x - window.x, viewport.y - window.y); }
     RECT ToLogical(const RECT& rect) const { return Moved(rect, window.x - viewport.x, window.y - viewport.y); }
@@ -47,7 +47,7 @@ void Change(HGCANVAS canvas, Model& model, zorvic::Random& random) {
     const POINT origin{random.Below(30) - 9, random.Below(30) - 9};
     const int left = random.Below(50) - 10, top = random.Below(40) - 10;
     const RECT rect{left, top, left + random.Below(40), top + random.Below(30)}, corner{3, 3, 9, 9};
-    const RECT device = Common(model.ToDevice(rect), {0, 0, width, height});
+    const RECT device = Common(model.ToDevice(rect), {0, 0, canvasWidth, canvasHeight});
     POINT previous{-1, -1};
     switch (random.Below(6)) {
         case 0:
@@ -82,7 +82,7 @@ TEST(CanvasState, FollowsTheModel) {
     for (const CanvasKind& kind : canvasKinds)
         for (int round = 0; round < 60; ++round) {
             SCOPED_TRACE(testing::Message() << kind.name << ", round " << round);
-            const Target target(kind, width, height);
+            const Target target(kind, canvasWidth, canvasHeight);
             Model model;
             for (int i = 0; i < 8; ++i) {
                 Change(target.Get(), model, random);

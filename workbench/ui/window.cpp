@@ -16,7 +16,6 @@ constexpr UINT workMessage = WM_APP + 1;
 constexpr UINT_PTR timer = 1;
 constexpr UINT tick = 100;       // milliseconds
 constexpr DWORD tipDelay = 600;  // of resting, before a tooltip
-constexpr DWORD saidFor = 4000;
 
 bool IsDown(int key) { return GetKeyState(key) < 0; }
 

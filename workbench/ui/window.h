@@ -20,6 +20,7 @@ public:
 private:
     static constexpr int statusHeight = 26;
     static constexpr SIZE least{1000, 700};  // of the client area
+    static constexpr DWORD saidFor = 4000;   // milliseconds that the status bar shows what was done
 
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);

@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr DWORD saidFor = 4000;
-
 template <class... Values>
 std::wstring Format(const wchar_t* format, Values... values) {
     wchar_t text[160];

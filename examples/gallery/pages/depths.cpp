@@ -9,7 +9,7 @@ void DrawOnChecks(HGCANVAS canvas, HGBITMAP bitmap, DWORD operation, BYTE alpha 
     DrawBitmapEx(canvas, nullptr, bitmap, ZORVIC_FILTER_NEAREST, alpha);
 }
 
-void AddSource(Sheet& sheet, HGBITMAP bitmap) {
+void AddDepth(Sheet& sheet, HGBITMAP bitmap) {
     sheet.Tile(L"DrawBitmap", [&](HGCANVAS canvas) { DrawOnChecks(canvas, bitmap, ZORVIC_OP_COPY); });
     sheet.Tile(L"DrawBitmapEx, alpha 128", [&](HGCANVAS canvas) { DrawOnChecks(canvas, bitmap, ZORVIC_OP_COPY, 128); });
     sheet.Tile(L"DrawBitmap, OP_SOURCE_OVER",
@@ -44,17 +44,17 @@ Sheet DepthsPage(const Pictures& pictures) {
     sheet.Section(L"8 bits per pixel with a palette of its own: CreateMemBitmapEx(width, height, 8, 256)", columns,
                   height);
     const Bitmap photo = Cover(pictures.Photo(), sheet.TileSize());
-    AddSource(sheet, ToPalette(photo));
+    AddDepth(sheet, ToPalette(photo));
     sheet.Section(L"8 bits per pixel without a palette, shown by the grey ramp: CreateMemBitmapEx(width, height, 8, 0)",
                   columns, height);
-    AddSource(sheet, ToGray(photo));
+    AddDepth(sheet, ToGray(photo));
     sheet.Section(L"24 bits per pixel, opaque: CreateMemBitmapEx(width, height, 24, 0)", columns, height);
-    AddSource(sheet, To24Bits(photo));
+    AddDepth(sheet, To24Bits(photo));
     sheet.Section(L"32 bits per pixel, here with edges that fade to transparent: CreateMemBitmap(width, height)",
                   columns, height);
     const Bitmap faded = Cover(photo, sheet.TileSize());
     FadeEdges(faded);
-    AddSource(sheet, faded);
+    AddDepth(sheet, faded);
 
     sheet.Section(L"The palette changed through LockBitmapBitsEx, the 8-bit pixels left alone; drawn OP_SOURCE_OVER",
                   columns, height);

@@ -68,7 +68,7 @@ private:
     std::vector<std::byte> before;
 };
 
-struct Operation {
+struct AreaOperation {
     const char* name;
     int traits;
     bool (*run)(const BITMAP& src, const BITMAP& dst, Random& random);
@@ -83,7 +83,7 @@ RECT AnyArea(Random& random) {
     return area;
 }
 
-const Operation operations[] = {
+const AreaOperation operations[] = {
     {"copy", usesBoth | knows24 | usesSteps | tells,
      [](const BITMAP& src, const BITMAP& dst, Random& random) {
          const RECT area = AnyArea(random);
