@@ -79,3 +79,12 @@ function(zorvic_msvc_import_library target def)
         VERBATIM)
     install(FILES "${library}" DESTINATION lib)
 endfunction()
+
+# zorvic_own_runtime(TARGET): the DLL frees what the compiler's runtime keeps in it (platform/runtime/runtime.h).
+function(zorvic_own_runtime target)
+    set(runtime other)
+    if(MINGW AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        set(runtime gnu)
+    endif()
+    target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/src/platform/runtime/${runtime}.cpp")
+endfunction()
