@@ -80,11 +80,35 @@ function(zorvic_msvc_import_library target def)
     install(FILES "${library}" DESTINATION lib)
 endfunction()
 
-# zorvic_own_runtime(TARGET): the DLL frees what the compiler's runtime keeps in it (platform/runtime/runtime.h).
+# zorvic_own_runtime(TARGET): the DLL frees what the compiler's runtime keeps in it (src/platform/runtime/runtime.h).
 function(zorvic_own_runtime target)
-    set(runtime other)
+    set(folder "${PROJECT_SOURCE_DIR}/src/platform/runtime")
     if(MINGW AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-        set(runtime gnu)
+        target_sources(${target} PRIVATE "${folder}/gnu.cpp")
+    else()
+        target_sources(${target} PRIVATE "${folder}/other.cpp")
     endif()
-    target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/src/platform/runtime/${runtime}.cpp")
+endfunction()
+
+# zorvic_harden(TARGET): has a fault end the program instead of being used against it. Functions with arrays check the
+# stack before they return; the pixel loops, which are another target, have none. MSVC does all this unasked.
+function(zorvic_harden target)
+    if(NOT MINGW)
+        return()
+    endif()
+    # Code and data at another address each time, no code in data.
+    target_link_options(${target} PRIVATE -Wl,--dynamicbase -Wl,--nxcompat)
+    if(ZORVIC_BITS EQUAL 64)
+        target_link_options(${target} PRIVATE -Wl,--high-entropy-va)
+    else()
+        # GCC's exceptions for 32 bits are none of Windows', so nothing here is an exception handler.
+        target_link_options(${target} PRIVATE -Wl,--no-seh)
+    endif()
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fstack-protector-strong>)
+        target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/src/platform/runtime/stack_guard_gnu.cpp")
+        # It makes the guard with which the others return.
+        set_source_files_properties("${PROJECT_SOURCE_DIR}/src/platform/runtime/stack_guard_gnu.cpp"
+            TARGET_DIRECTORY ${target} PROPERTIES COMPILE_OPTIONS -fno-stack-protector)
+    endif()
 endfunction()
