@@ -93,7 +93,7 @@ ZORVIC_API void ZORVIC_CALL ReleaseBitmap(HGBITMAP bitmap);
 /** The bitmap's pixels as a GDI bitmap. A bitmap in heap memory is first turned into a 32-bit DIB section, once and
  *  for good, which moves its pixels; earlier locks end.
  *  \return a handle that stays the bitmap's and must not be deleted by the host; 0 for NULL, for a bitmap without
- *          pixels of its own, or when GDI refuses */
+ *          pixels of its own, or when GDI refuses: a bitmap has lost its pixels then, a canvas keeps its surface's */
 ZORVIC_API HBITMAP ZORVIC_CALL GetBitmapHandle(HGBITMAP bitmap);
 
 /** Writes width and height in pixels (0 and 0 without pixels). \return 1; 0 for NULL */
@@ -279,7 +279,8 @@ ZORVIC_API void ZORVIC_CALL DeleteCanvas(HGCANVAS canvas);
 
 /** The canvas's device context, made on the first call with the canvas's clip and origins; this turns the surface into
  *  a DIB section for good. GDI writes colour but clears or keeps alpha as it likes.
- *  \return a device context that stays the canvas's (or the host's); NULL for NULL or when GDI refuses */
+ *  \return a device context that stays the canvas's (or the host's); NULL for NULL, or when GDI refuses it or the clip;
+ *          the picture stays as it is then */
 ZORVIC_API HDC ZORVIC_CALL GetCanvasHandle(HGCANVAS canvas);
 
 /** Writes the surface's width and height in pixels. \return 1; 0 for NULL or a canvas without a surface */
@@ -325,9 +326,11 @@ ZORVIC_API int ZORVIC_CALL SetCanvasBkColor(HGCANVAS canvas, DWORD color, DWORD*
 /** Reads the background colour, 0 at first. \return 1; 0 for NULL */
 ZORVIC_API int ZORVIC_CALL GetCanvasBkColor(HGCANVAS canvas, DWORD* color);
 
-/** Replaces the clip: nothing is drawn outside it. It is cut to the surface and does not move with the origins.
+/** Replaces the clip: nothing is drawn outside it. It is cut to the surface and does not move with the origins. When GDI
+ *  refuses it, it is the canvas's all the same: nothing is drawn through the device context until a later call can give
+ *  it the clip.
  *  \param rect  logical pixels
- *  \return 1; 0 for NULL, or when GDI refuses, and the clip stays as it was */
+ *  \return 1; 0 for NULL */
 ZORVIC_API int ZORVIC_CALL SetCanvasClipRect(HGCANVAS canvas, const RECT* rect);
 
 /** SetCanvasClipRect: the clip is a rectangle, the corner has no effect. */
@@ -336,7 +339,7 @@ ZORVIC_API int ZORVIC_CALL SetCanvasClipRoundRect(HGCANVAS canvas, const RECT* r
 /** Cuts the clip to a rectangle in logical pixels. \return as SetCanvasClipRect */
 ZORVIC_API int ZORVIC_CALL IntersectCanvasClipRect(HGCANVAS canvas, const RECT* rect);
 
-/** Writes the clip in logical pixels; the device context's clip box, once there is one. \return 1; 0 for NULL */
+/** Writes the clip in logical pixels; the clip box of a device context that has taken the clip. \return 1; 0 for NULL */
 ZORVIC_API int ZORVIC_CALL GetCanvasClipRect(HGCANVAS canvas, RECT* rect);
 
 /** \return the canvas's surface, which stays the canvas's; NULL for NULL or a canvas without one */
@@ -363,7 +366,7 @@ ZORVIC_API DWORD ZORVIC_CALL GetStretchKernelMode(void);
 ZORVIC_API int ZORVIC_CALL DrawBitmap(HGCANVAS canvas, const RECT* dst, HGBITMAP bitmap, DWORD filter);
 
 /** Draws a bitmap into a rectangle of a canvas by the bitmap's operation word, stretched to fit and clipped. What is
- *  visible has the pixels of the unclipped draw.
+ *  visible has the pixels of the unclipped draw. Drawn unstretched onto itself, a canvas's surface counts as a copy.
  *  \param canvas  target; its origins and clip apply
  *  \param dst     logical pixels; NULL, the bitmap's own size at (0, 0)
  *  \param bitmap  8, 24 or 32 bits per pixel; only read
@@ -479,7 +482,8 @@ ZORVIC_API_CXX int ZORVIC_CALL DrawTexture9Grid(HGCANVAS canvas, const RECT* dst
 /* ------------------------------------------------------------------------------------------- composing canvases */
 
 /** Cross-fades one canvas into another: each channel becomes (src * (a + 1) + dst * (255 - a)) >> 8, a = 0 changing
- *  nothing. Rectangles of different sizes are sampled to the nearest pixel. The clip does not apply.
+ *  nothing. Rectangles of different sizes are sampled to the nearest pixel. The clip does not apply. Mixed into itself
+ *  at the same size, a canvas counts as a copy.
  *  \param dstRect,srcRect  logical pixels, wholly inside their canvases (else nothing happens)
  *  \param value            its low byte is the amount a
  *  \return 1; 0 for NULL */
@@ -496,7 +500,7 @@ ZORVIC_API int ZORVIC_CALL MixCanvasWithColor(HGCANVAS canvas, const RECT* rect,
  *  destination has it or alpha is below 255, the source counts as opaque and is blended by the constant alpha, but for
  *  draws that are both stretched and clipped; else it is copied, alpha included. Stretching is nearest. When either
  *  canvas is on a host's device context, GDI does the transfer: AlphaBlend for a source with alpha, else StretchBlt,
- *  which ignores alpha and obeys the target's stretch mode.
+ *  which ignores alpha and obeys the target's stretch mode. Drawn unstretched onto itself, a canvas counts as a copy.
  *  \param dstRect,srcRect  logical pixels
  *  \param alpha            opacity; without effect on a source with alpha between surfaces
  *  \return 1, or GDI's result; 0 for NULL */
@@ -779,7 +783,8 @@ ZORVIC_API void ZORVIC_CALL GradientDestroy(HGGRADIENT gradient);
 /* ------------------------------------------------------------------------------------------------------ outlines */
 
 /** Outlines a rectangle. On a canvas with ZORVIC_OP_SOURCE_OVER the library draws one opaque pixel in the pen's colour,
- *  so that alpha survives; otherwise GDI draws with pen and brush.
+ *  so that alpha survives; otherwise GDI draws with pen and brush. Edges far outside the clip are brought nearer before, by
+ *  whole periods of the pen's dashes.
  *  \param rect   logical pixels
  *  \param pen    NULL, black
  *  \param brush  NULL, the inside stays

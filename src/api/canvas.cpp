@@ -93,7 +93,8 @@ int ZORVIC_CALL GetCanvasBkColor(HGCANVAS canvas, DWORD* color) {
 
 int ZORVIC_CALL SetCanvasClipRect(HGCANVAS canvas, const RECT* rect) {
     if (!canvas || !rect) return 0;
-    return FromHandle(canvas)->SetClip(*rect);
+    FromHandle(canvas)->SetClip(*rect);
+    return 1;
 }
 
 int ZORVIC_CALL SetCanvasClipRoundRect(HGCANVAS canvas, const RECT* rect, const RECT*) {
@@ -102,7 +103,8 @@ int ZORVIC_CALL SetCanvasClipRoundRect(HGCANVAS canvas, const RECT* rect, const 
 
 int ZORVIC_CALL IntersectCanvasClipRect(HGCANVAS canvas, const RECT* rect) {
     if (!canvas || !rect) return 0;
-    return FromHandle(canvas)->IntersectClip(*rect);
+    FromHandle(canvas)->IntersectClip(*rect);
+    return 1;
 }
 
 int ZORVIC_CALL GetCanvasClipRect(HGCANVAS canvas, RECT* rect) {

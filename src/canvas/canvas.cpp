@@ -11,12 +11,15 @@ namespace zorvic {
 namespace {
 
 // GDI's regions have coordinates of 28 bits.
-LONG ToRegion(LONG coordinate) { return std::clamp<LONG>(coordinate, -0x7FFFFFF, 0x7FFFFFF); }
+RECT ToRegion(const RECT& rect) {
+    const auto limit = [](LONG coordinate) { return std::clamp<LONG>(coordinate, -0x7FFFFFF, 0x7FFFFFF); };
+    return {limit(rect.left), limit(rect.top), limit(rect.right), limit(rect.bottom)};
+}
 
 // Replaces the clip region by a rectangle in device pixels; false when GDI refuses.
 bool SelectClip(HDC dc, const RECT& device) {
-    const HRGN region =
-        CreateRectRgn(ToRegion(device.left), ToRegion(device.top), ToRegion(device.right), ToRegion(device.bottom));
+    const RECT rect = ToRegion(device);
+    const HRGN region = CreateRectRgn(rect.left, rect.top, rect.right, rect.bottom);
     if (!region) return false;  // without a region GDI would end all clipping
     const bool selected = ExtSelectClipRgn(dc, region, RGN_COPY) != ERROR;
     DeleteObject(region);
@@ -50,16 +53,21 @@ std::unique_ptr<Canvas> Canvas::FromDc(HDC hostDc) {
 }
 
 HDC Canvas::MakeDc() {
-    if (Dc()) return Dc();
-    const HDC dc = memoryDc.emplace(surface->ToSystem()).Get();
-    if (!dc || !SelectClip(dc, clip)) {
+    const bool made = Dc() ? HandOverClip() : MakeMemoryDc();
+    return made ? Dc() : nullptr;
+}
+
+// The pixels move last, when all else is there.
+bool Canvas::MakeMemoryDc() {
+    const HDC dc = memoryDc.emplace().Get();
+    if (!dc || !SelectClip(dc, clip) || !memoryDc->Select(surface->ToSystem())) {
         memoryDc.reset();
-        return nullptr;
+        return false;
     }
     SetViewportOrgEx(dc, viewportOrg.x, viewportOrg.y, nullptr);
     SetWindowOrgEx(dc, windowOrg.x, windowOrg.y, nullptr);
     BindVectorCanvas();
-    return dc;
+    return true;
 }
 
 int Canvas::SetViewportOrg(POINT origin, POINT* previous) {
@@ -74,27 +82,48 @@ int Canvas::SetWindowOrg(POINT origin, POINT* previous) {
     return Dc() ? SetWindowOrgEx(Dc(), origin.x, origin.y, previous) : 1;
 }
 
-bool Canvas::SetClip(const RECT& logical) {
-    const RECT device = ToDevice(logical);
-    if (Dc() && !SelectClip(Dc(), device)) return false;
-    if (!surface) return true;
-    const SIZE size = surface->Size();
-    clip = Intersection(device, {0, 0, size.cx, size.cy});
-    return true;
+void Canvas::SetClip(const RECT& logical) {
+    clip = ToDevice(logical);
+    if (surface) {
+        const SIZE size = surface->Size();
+        clip = Intersection(clip, {0, 0, size.cx, size.cy});
+    }
+    if (!Dc()) return;
+    refusedClip = RGN_COPY;
+    HandOverClip();
 }
 
-bool Canvas::IntersectClip(const RECT& logical) {
-    if (Dc() && IntersectClipRect(Dc(), logical.left, logical.top, logical.right, logical.bottom) == ERROR)
-        return false;
-    clip = Intersection(clip, ToDevice(logical));
-    return true;
+void Canvas::IntersectClip(const RECT& logical) {
+    const RECT device = ToDevice(logical);
+    clip = surface || refusedClip != 0 ? Intersection(clip, device) : device;
+    if (!Dc() || (refusedClip == 0 && IntersectDcClip(device))) return;
+    if (refusedClip == 0) refusedClip = surface ? RGN_COPY : RGN_AND;
+    HandOverClip();
+}
+
+bool Canvas::IntersectDcClip(const RECT& device) const {
+    const RECT rect = ToLogical(ToRegion(device));
+    return IntersectClipRect(Dc(), rect.left, rect.top, rect.right, rect.bottom) != ERROR;
+}
+
+bool Canvas::HandOverClip() {
+    if (refusedClip == 0) return true;
+    const bool taken = refusedClip == RGN_COPY ? SelectClip(Dc(), clip) : IntersectDcClip(clip);
+    if (taken && (!memoryDc || memoryDc->Select(surface->ToSystem()))) {
+        refusedClip = 0;
+        return true;
+    }
+    // What a host draws on the device context that it was given must not reach pixels outside the clip.
+    if (memoryDc) memoryDc->Deselect();
+    return false;
 }
 
 RECT Canvas::ClipBox() const {
-    if (!Dc()) return ToLogical(clip);
+    const RECT asked = ToLogical(clip);
+    if (!Dc() || refusedClip == RGN_COPY) return asked;
     RECT box{};
     GetClipBox(Dc(), &box);
-    return box;
+    return refusedClip == RGN_AND ? Intersection(box, asked) : box;
 }
 
 bool Canvas::SetFilter(DWORD word) {

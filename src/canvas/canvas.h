@@ -28,7 +28,8 @@ public:
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
-    // The device context: the host's, or the surface's own, made on the first call. Null when GDI refuses.
+    // The device context for drawing: the host's, or the surface's own, made on the first call. Null when GDI refuses it,
+    // the surface's conversion or the clip.
     HDC MakeDc();
 
     // Sets an origin. Returns 1, or the device context's result once there is one.
@@ -40,10 +41,10 @@ public:
     RECT ToDevice(const RECT& logical) const { return Offset(logical, viewportOrg - windowOrg); }
     RECT ToLogical(const RECT& device) const { return Offset(device, windowOrg - viewportOrg); }
 
-    // False, and the clip stays, when GDI refuses.
-    bool SetClip(const RECT& logical);
-    bool IntersectClip(const RECT& logical);
-    // The clip in logical pixels, as the host sees it: the device context's clip box, once there is one.
+    // When GDI refuses the clip, nothing is drawn through the device context until it takes it.
+    void SetClip(const RECT& logical);
+    void IntersectClip(const RECT& logical);
+    // The clip in logical pixels, as the host sees it: the clip box of a device context that has taken the clip.
     RECT ClipBox() const;
     // What drawing is clipped to, in logical pixels: the clip, or the clip box of a host's device context.
     RECT VisibleRect() const { return surface ? ToLogical(clip) : ClipBox(); }
@@ -76,10 +77,18 @@ private:
 
     HDC Dc() const { return memoryDc ? memoryDc->Get() : hostDc; }  // null until there is one
 
+    bool MakeMemoryDc();
+    // Cuts the device context's clip to a rectangle in device pixels; false when GDI refuses.
+    bool IntersectDcClip(const RECT& device) const;
+    // Gives the device context the clip that it has not taken yet; false when GDI refuses.
+    bool HandOverClip();
+
     HDC hostDc = nullptr;
     POINT viewportOrg{};
     POINT windowOrg{};
-    RECT clip{};  // surface pixels
+    RECT clip{};  // surface pixels; on a host's device context, device pixels of the clip that GDI refuses
+    // How the device context must still take the clip that GDI refuses: RGN_COPY, RGN_AND, or 0 when it has taken it.
+    int refusedClip = 0;
     DWORD filter = 0;
     std::unique_ptr<Bitmap> surface;
     std::optional<MemoryDc> memoryDc;  // after the surface, whose bitmap it lets go of first
@@ -90,18 +99,21 @@ private:
 inline Canvas* FromHandle(HGCANVAS handle) { return reinterpret_cast<Canvas*>(handle); }
 inline HGCANVAS ToHandle(const Canvas* canvas) { return reinterpret_cast<HGCANVAS>(const_cast<Canvas*>(canvas)); }
 
-// Pixels of an area of a canvas, given in logical pixels, for reading and writing; written back with the scope's end.
+// Pixels of an area of a canvas, given in logical pixels. What is written is brought back with the scope's end.
 // Several locks of one canvas may be held; what they write is brought back in the reverse order of locking. On a device
 // context a lock costs many draws: what draws in pieces locks once around all of them.
 class CanvasLock {
 public:
-    CanvasLock(Canvas& lockedCanvas, const RECT& logicalArea)
+    enum class Use { write, read };
+
+    CanvasLock(Canvas& lockedCanvas, const RECT& logicalArea, Use lockUse = Use::write)
         : canvas(lockedCanvas),
           area(logicalArea),
+          use(lockUse),
           locked(!IsEmpty(area) && (canvas.surface ? LockSurface() : LockDc())) {}
     ~CanvasLock() {
         if (!locked) return;
-        if (copy) WriteBack();
+        if (copy && use == Use::write) WriteBack();
         if (canvas.surface) canvas.surface->Unlock();
     }
     CanvasLock(const CanvasLock&) = delete;
@@ -133,6 +145,7 @@ private:
 
     Canvas& canvas;
     const RECT area;
+    const Use use;
     BitmapLockInfo info;
     std::optional<DibPixelStore> copy;  // of the area of a device context whose own pixels cannot be reached
     bool locked;

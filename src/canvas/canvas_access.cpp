@@ -5,6 +5,7 @@
 namespace zorvic {
 
 bool CanvasLock::LockDc() {
+    if (!canvas.MakeDc()) return false;
     const DcAccess access = DescribeDcPixels();
     return access == DcAccess::direct || (access == DcAccess::copy && CopyFromDc());
 }
@@ -52,10 +53,11 @@ bool CanvasLock::CopyFromDc() {
     description.bmWidth = area.right - area.left;
     description.bmHeight = area.bottom - area.top;
     if (!copy.emplace().Create(&description, 0)) return false;
-    const MemoryDc memoryDc(copy->Handle());
-    if (!memoryDc.Get()) return false;
+    MemoryDc memoryDc;
+    if (!memoryDc.Select(copy->Handle())) return false;
     BitBlt(memoryDc.Get(), 0, 0, description.bmWidth, description.bmHeight, canvas.hostDc, area.left, area.top,
            SRCCOPY);
+    GdiFlush();
     return copy->LockEx(&info, nullptr);
 }
 

@@ -1,4 +1,4 @@
-// A memory device context with a bitmap selected into it, for as long as the object lives.
+// A memory device context, and the bitmap that is selected into it.
 #pragma once
 
 #include "zorvic/types.h"
@@ -7,19 +7,27 @@ namespace zorvic {
 
 class MemoryDc {
 public:
-    // Stays empty when GDI refuses.
-    explicit MemoryDc(HBITMAP bitmap) : dc(bitmap ? CreateCompatibleDC(nullptr) : nullptr) {
-        if (dc) previousObject = SelectObject(dc, bitmap);
-    }
+    MemoryDc() : dc(CreateCompatibleDC(nullptr)) {}
     ~MemoryDc() {
         if (!dc) return;
-        SelectObject(dc, previousObject);
+        Deselect();
         DeleteDC(dc);
     }
     MemoryDc(const MemoryDc&) = delete;
     MemoryDc& operator=(const MemoryDc&) = delete;
 
-    HDC Get() const { return dc; }
+    HDC Get() const { return dc; }  // null when GDI refuses
+
+    // Selects the bitmap, once. False when GDI refuses, as it does while another device context has it.
+    bool Select(HBITMAP bitmap) {
+        if (!previousObject && bitmap) previousObject = SelectObject(dc, bitmap);
+        return previousObject != nullptr;
+    }
+    // What is drawn then does not reach the bitmap.
+    void Deselect() {
+        if (previousObject) SelectObject(dc, previousObject);
+        previousObject = nullptr;
+    }
 
 private:
     HDC dc;

@@ -26,7 +26,7 @@ bool Canvas::BindVectorCanvas() {
 
 VectorFrame::VectorFrame(Canvas& canvas) : saved(canvas.VectorCanvas()) {
     if (!saved) return;
-    const RECT clip = canvas.ToDevice(canvas.ClipBox());
+    alignas(16) const RECT clip = canvas.ToDevice(canvas.ClipBox());  // as the backend gets every rectangle
     vekCanvasClipRect(saved.Get(), &clip);
     const POINT viewport = canvas.ViewportOrg(), window = canvas.WindowOrg();
     vekCanvasTranslate(saved.Get(), static_cast<float>(viewport.x), static_cast<float>(viewport.y));

@@ -91,19 +91,24 @@ HBITMAP Bitmap::ToSystem() {
     if (!ownsStore) return nullptr;
 
     const auto dib = MakeStore<DibPixelStore>();
-    if (!dib) return nullptr;
-    if (const SurfaceLock src(*this); src) {
-        BITMAP description{};
-        description.bmWidth = src->bmWidth;
-        description.bmHeight = src->bmHeight;
-        BitmapLockInfo dst;
-        if (dib->Create(&description, 0) && dib->LockEx(&dst, nullptr))
-            KernelTable.At(slots::copySameSize, DepthOf(src->bmBitsPixel))(dst, *src);
-    }
-    // The kind changes for good and the old pixels go, even when they could not be locked or GDI made no new ones.
+    const bool copied = dib && CopyInto(*dib);
+    // A canvas keeps its picture. A host's bitmap changes its kind for good and loses pixels that cannot be converted.
+    if (!copied && (!dib || !isHosts)) return nullptr;
     store = dib;
     kind = StoreKind::system;
     return dib->Handle();
+}
+
+bool Bitmap::CopyInto(DibPixelStore& dib) const {
+    const SurfaceLock src(*this);
+    if (!src) return false;
+    BITMAP description{};
+    description.bmWidth = src->bmWidth;
+    description.bmHeight = src->bmHeight;
+    BitmapLockInfo dst;
+    if (!dib.Create(&description, 0) || !dib.LockEx(&dst, nullptr)) return false;
+    KernelTable.At(slots::copySameSize, DepthOf(src->bmBitsPixel))(dst, *src);
+    return true;
 }
 
 void NotifyChange(Bitmap& bitmap, DWORD value) {

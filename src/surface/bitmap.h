@@ -41,7 +41,8 @@ public:
     StoreKind Kind() const { return kind; }
     bool HasStore() const { return store != nullptr; }
 
-    // The DIB section's handle; turns a memory store into a system store first. Null when that is not possible.
+    // The DIB section's handle; turns a memory store into a system store first. Null when that is not possible; then a
+    // host's bitmap has lost its pixels, a canvas's surface has not.
     HBITMAP ToSystem();
 
     DWORD filter = 0;  // the operation word
@@ -51,6 +52,8 @@ public:
 
 private:
     void ReleaseStore();
+    // Makes a store's pixels and copies this bitmap's into them.
+    bool CopyInto(DibPixelStore& dib) const;
 
     // Shared, so that a texture that borrows a canvas's pixels keeps the old ones when the canvas converts its surface.
     std::shared_ptr<PixelStore> store;

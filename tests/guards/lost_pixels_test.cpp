@@ -1,6 +1,6 @@
 // Pixels that went away behind the library's back, pixels that outlive their owner, and what is read beyond them.
 #include "support/allocations.h"
-#include "support/host.h"
+#include "support/gdi.h"
 
 namespace {
 
@@ -32,6 +32,32 @@ TEST(LostPixels, AreNotTouched) {
         EXPECT_EQ(LockBitmapBits(surface, &image, nullptr), 0);
         EXPECT_TRUE(Shows(bitmap.get(), Pattern{}));
     }
+}
+
+// Neither when memory is short nor while another device context has the bitmap; failure_tests has all other calls.
+TEST(LostPixels, AreNotThoseOfACanvas) {
+    bool (*const ways[])(HGCANVAS) = {[](HGCANVAS c) { return GetCanvasHandle(c) != nullptr; },
+                                      [](HGCANVAS c) { return GetBitmapHandle(GetBitmap(c)) != nullptr; }};
+    for (const auto& convert : ways) {
+        bool failed = true;
+        for (int k = 1; failed; ++k) {
+            const OwnedCanvas canvas = MakeCanvas(9, 7, Pattern{});
+            Allocations memory;
+            memory.FailAt(k);
+            const bool converted = convert(canvas.get());
+            failed = memory.HasFailed();
+            memory.FailAt(0);
+            EXPECT_NE(converted, failed) << "allocation " << k;
+            EXPECT_TRUE(Shows(canvas.get(), Pattern{})) << "allocation " << k;
+        }
+    }
+    const OwnedCanvas canvas = MakeCanvas(9, 7, Pattern{});
+    const GdiBitmap dib = GdiBitmap::Dib(9, 7);
+    const HGDIOBJ former = SelectObject(dib.Dc(), GetBitmapHandle(GetBitmap(canvas.get())));
+    EXPECT_EQ(GetCanvasHandle(canvas.get()), nullptr);
+    SelectObject(dib.Dc(), former);
+    EXPECT_NE(GetCanvasHandle(canvas.get()), nullptr);
+    EXPECT_TRUE(Shows(canvas.get(), Pattern{}));
 }
 
 TEST(BorrowedPixels, OutliveTheirCanvas) {
