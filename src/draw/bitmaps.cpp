@@ -1,6 +1,7 @@
 // Clipping and locking of bitmap draws; the pixels are the selectors' work.
 #include "draw/bitmaps.h"
 
+#include "draw/overlap.h"
 #include "raster/selectors.h"
 
 namespace zorvic {
@@ -13,13 +14,20 @@ void DrawImage(const CanvasLock& target, const RECT& dst, const BitmapLockInfo& 
     const RECT visible = Intersection(target.Area(), dst);
     if (!target || IsEmpty(visible)) return;
     const BitmapLockInfo image = target.PartAt(visible);
-    if (visible == dst) {
-        SelectStretchKernel(image, src, operationWord, filterMode, alpha);
-    } else {
-        const Placement placement{visible.left - std::int64_t{dst.left}, visible.top - std::int64_t{dst.top},
-                                  WidthOf(dst), HeightOf(dst)};
-        SelectPlacedKernel(image, placement, src, operationWord, filterMode, alpha);
+    const Placement placement{visible.left - std::int64_t{dst.left}, visible.top - std::int64_t{dst.top}, WidthOf(dst),
+                              HeightOf(dst)};
+    if (placement.width == src.bmWidth && placement.height == src.bmHeight) {
+        const BitmapLockInfo part = PartOf(src, static_cast<int>(placement.left), static_cast<int>(placement.top),
+                                           image.bmWidth, image.bmHeight);
+        if (OverwritesSource(image, part))
+            return DrawInOrder(image, part, [&](const BitmapLockInfo& to, const BitmapLockInfo& from) {
+                SelectStretchKernel(to, from, operationWord, filterMode, alpha);
+            });
     }
+    if (visible == dst)
+        SelectStretchKernel(image, src, operationWord, filterMode, alpha);
+    else
+        SelectPlacedKernel(image, placement, src, operationWord, filterMode, alpha);
 }
 
 }  // namespace

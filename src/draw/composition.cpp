@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "draw/overlap.h"
 #include "raster/kernel_table.h"
 #include "raster/request.h"
 
@@ -38,10 +39,14 @@ int Blend(HDC target, const RECT& dst, HDC source, const RECT& src, BYTE alpha, 
 int MixCanvas(Canvas& dst, const RECT& dstRect, Canvas& src, const RECT& srcRect, DWORD value) {
     const CanvasLock target(dst, dstRect);
     if (!target) return 1;
-    const CanvasLock source(src, srcRect);
+    const CanvasLock source(src, srcRect, CanvasLock::Use::read);
     if (!source) return 1;
-    const bool sameSize = target->bmWidth == source->bmWidth && target->bmHeight == source->bmHeight;
-    return KernelTable.At(sameSize ? slots::crossFadeSameSize : slots::crossFadeNearest)(*target, *source, value);
+    if (target->bmWidth != source->bmWidth || target->bmHeight != source->bmHeight)
+        return KernelTable.At(slots::crossFadeNearest)(*target, *source, value);
+    DrawInOrder(*target, *source, [value](const BitmapLockInfo& to, const BitmapLockInfo& from) {
+        KernelTable.At(slots::crossFadeSameSize)(to, from, value);
+    });
+    return 1;
 }
 
 int MixCanvasWithColor(Canvas& canvas, const RECT& rect, DWORD color, DWORD value) {
@@ -58,12 +63,15 @@ int BlendCanvas(Canvas& dst, const RECT& dstRect, Canvas& src, const RECT& srcRe
         // GDI clips by itself. The opacity of a source without alpha is ignored on purpose.
         const HDC to = dst.MakeDc();
         const HDC from = src.MakeDc();
-        return composed ? Blend(to, dstRect, from, srcRect, alpha, AC_SRC_ALPHA) : Stretch(to, dstRect, from, srcRect);
+        const int result =
+            composed ? Blend(to, dstRect, from, srcRect, alpha, AC_SRC_ALPHA) : Stretch(to, dstRect, from, srcRect);
+        if (dst.Surface()) GdiFlush();  // the library touches the pixels next
+        return result;
     }
 
     const CanvasLock target(dst, visible);
     if (!target) return 1;
-    const CanvasLock source(src, srcRect);
+    const CanvasLock source(src, srcRect, CanvasLock::Use::read);
     if (!source) return 1;
 
     constexpr auto depth = SourceDepth::argb32;
@@ -73,9 +81,12 @@ int BlendCanvas(Canvas& dst, const RECT& dstRect, Canvas& src, const RECT& srcRe
     if (placement.width == source->bmWidth && placement.height == source->bmHeight) {
         const BitmapLockInfo part = PartOf(*source, static_cast<int>(placement.left), static_cast<int>(placement.top),
                                            target->bmWidth, target->bmHeight);
-        if (composed) return KernelTable.At(slots::overSameSize, depth)(*target, part);
-        if (blended) return KernelTable.At(slots::opaqueAlphaSameSize)(*target, part, alpha);
-        return KernelTable.At(slots::copySameSize, depth)(*target, part);
+        DrawInOrder(*target, part, [&](const BitmapLockInfo& to, const BitmapLockInfo& from) {
+            if (composed) return KernelTable.At(slots::overSameSize, depth)(to, from);
+            if (blended) return KernelTable.At(slots::opaqueAlphaSameSize)(to, from, alpha);
+            return KernelTable.At(slots::copySameSize, depth)(to, from);
+        });
+        return 1;
     }
     if (visible == dstRect) {
         if (composed) return KernelTable.At(slots::overNearest, depth)(*target, *source);

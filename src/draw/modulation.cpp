@@ -2,6 +2,7 @@
 #include "draw/modulation.h"
 
 #include "draw/coordinates.h"
+#include "draw/overlap.h"
 #include "raster/modulation.h"
 
 namespace zorvic {
@@ -15,7 +16,9 @@ int DrawModulation(Canvas& canvas, POINT corner, const Bitmap& bitmap, const REC
     // What is visible of the area, in bitmap pixels; it lies inside the area, so that nothing wraps.
     const RECT part = Offset(target.Area(), POINT{area.left, area.top} - corner);
     const SurfaceLock source(bitmap, &part);
-    if (source) ModulateImage(*target, *source, color);
+    if (source)
+        DrawInOrder(*target, *source,
+                    [color](const BitmapLockInfo& to, const BitmapLockInfo& from) { ModulateImage(to, from, color); });
     return 1;
 }
 

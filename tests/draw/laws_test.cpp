@@ -182,3 +182,51 @@ TEST(Draws, AreCutByTheClipAndMovedByTheOriginsOnEveryCanvas) {
                 << ", " << draw.name << ", round " << round;
         }
 }
+
+// In all directions and, where the source lies half outside the clip of a device context, with one of both locked apart.
+TEST(Draws, OntoTheirOwnCanvasAreAsFromACopy) {
+    const struct {
+        const char* name;
+        bool onSurface;
+        void (*call)(HGCANVAS canvas, const RECT& dst, HGCANVAS source, const RECT& src);
+    } draws[] = {
+        {"mix", false,
+         [](HGCANVAS c, const RECT& dst, HGCANVAS s, const RECT& src) { MixCanvas(c, &dst, s, &src, 99); }},
+        {"blend", true,
+         [](HGCANVAS c, const RECT& dst, HGCANVAS s, const RECT& src) { BlendCanvas(c, &dst, s, &src, 200); }},
+        {"bitmap", true,
+         [](HGCANVAS c, const RECT& dst, HGCANVAS s, const RECT& src) {
+             DrawBitmapEx2(c, &dst, GetBitmap(s), &src, ZORVIC_FILTER_BILINEAR, 255);
+         }},
+        {"texture", true,
+         [](HGCANVAS c, const RECT& dst, HGCANVAS s, const RECT& src) {
+             const OwnedTexture view(GetTexture(s));
+             SetTextureSlice(view.get(), 1, &src);
+             DrawTextureEx(c, &dst, view.get(), ZORVIC_FILTER_AREA, 130, 0, 0);
+         }},
+        {"modulation", true,
+         [](HGCANVAS c, const RECT& dst, HGCANVAS s, const RECT& src) {
+             DrawModulation(c, dst.left, dst.top, GetBitmap(s), &src, 0xFF80F0A0);
+         }},
+    };
+    const RECT src{10, 4, 290, 11};  // several runs wide
+    for (const CanvasKind& kind : canvasKinds)
+        for (const auto& draw : draws)
+            for (const DWORD operation : {ZORVIC_OP_COPY, ZORVIC_OP_SOURCE_OVER, ZORVIC_OP_DESTINATION_OVER})
+                for (int direction = 0; direction < 18; ++direction) {
+                    const int dx = direction % 3 - 1, dy = direction / 3 % 3 - 1;
+                    RECT dst = src;
+                    OffsetRect(&dst, direction < 9 ? dx : 9 * dx, direction < 9 ? dy : 3 * dy);
+                    const Target target(kind, 300, 15), copy(kind, 300, 15), wanted(kind, 300, 15);
+                    if (draw.onSurface && target.HostDc()) continue;
+                    for (const Target* each : {&target, &copy, &wanted}) {
+                        SetCanvasFilter(each->Get(), operation);
+                        if (direction % 2 && each != &copy)
+                            SetCanvasClipRect(each->Get(), target.HostDc() ? &dst : &src);
+                    }
+                    draw.call(target.Get(), dst, target.Get(), src);
+                    draw.call(wanted.Get(), dst, copy.Get(), src);
+                    ASSERT_TRUE(target.Keeps(wanted.Shown()))
+                        << kind.name << ", " << draw.name << ' ' << operation << " to " << ToText(dst);
+                }
+}
