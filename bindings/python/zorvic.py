@@ -348,7 +348,7 @@ def GetBitmapHandle(bitmap):
     """The bitmap's pixels as a GDI bitmap. A bitmap in heap memory is first turned into a 32-bit DIB section, once and
     for good, which moves its pixels; earlier locks end.
     Returns: a handle that stays the bitmap's and must not be deleted by the host; 0 for None, for a bitmap without
-        pixels of its own, or when GDI refuses"""
+        pixels of its own, or when GDI refuses. A bitmap has lost its pixels then, a canvas has not"""
     return (bitmap,)
 
 
@@ -656,7 +656,8 @@ def DeleteCanvas(canvas):
 def GetCanvasHandle(canvas):
     """The canvas's device context, made on the first call with the canvas's clip and origins; this turns the surface into
     a DIB section for good. GDI writes colour but clears or keeps alpha as it likes.
-    Returns: a device context that stays the canvas's (or the host's); None for None or when GDI refuses"""
+    Returns: a device context that stays the canvas's (or the host's); None for None, or when GDI refuses it or the clip;
+        the picture stays as it is then"""
     return (canvas,)
 
 
@@ -746,9 +747,11 @@ def GetCanvasBkColor(canvas, color):
 
 @_export(c_int, HGCANVAS, POINTER(RECT))
 def SetCanvasClipRect(canvas, rect):
-    """Replaces the clip: nothing is drawn outside it. It is cut to the surface and does not move with the origins.
+    """Replaces the clip: nothing is drawn outside it. It is cut to the surface and does not move with the origins. When GDI
+    refuses it, it is the canvas's all the same: nothing is drawn through the device context until a later call can give
+    it the clip.
     rect: logical pixels
-    Returns: 1; 0 for None, or when GDI refuses, and the clip stays as it was"""
+    Returns: 1; 0 for None"""
     return (canvas, rect)
 
 
@@ -766,8 +769,8 @@ def IntersectCanvasClipRect(canvas, rect):
 
 @_export(c_int, HGCANVAS, POINTER(RECT))
 def GetCanvasClipRect(canvas, rect):
-    """Writes the clip in logical pixels; the device context's clip box, once there is one. Returns:
-    1; 0 for None"""
+    """Writes the clip in logical pixels; the clip box of a device context that has taken the clip.
+    Returns: 1; 0 for None"""
     return (canvas, rect)
 
 
@@ -801,7 +804,7 @@ def DrawBitmap(canvas, dst, bitmap, filter):
 @_export(c_int, HGCANVAS, POINTER(RECT), HGBITMAP, DWORD, BYTE)
 def DrawBitmapEx(canvas, dst, bitmap, filter, alpha):
     """Draws a bitmap into a rectangle of a canvas by the bitmap's operation word, stretched to fit and clipped. What is
-    visible has the pixels of the unclipped draw.
+    visible has the pixels of the unclipped draw. Drawn unstretched onto itself, a canvas's surface counts as a copy.
     canvas: target; its origins and clip apply
     dst: logical pixels; None, the bitmap's own size at (0, 0)
     bitmap: 8, 24 or 32 bits per pixel; only read
@@ -921,7 +924,8 @@ def DrawTexture9Grid(canvas, dst, texture, slice, margins, filter, centerFill, a
 @_export(c_int, HGCANVAS, POINTER(RECT), HGCANVAS, POINTER(RECT), DWORD)
 def MixCanvas(dst, dstRect, src, srcRect, value):
     """Cross-fades one canvas into another: each channel becomes (src * (a + 1) + dst * (255 - a)) >> 8, a = 0 changing
-    nothing. Rectangles of different sizes are sampled to the nearest pixel. The clip does not apply.
+    nothing. Rectangles of different sizes are sampled to the nearest pixel. The clip does not apply. Mixed into itself
+    at the same size, a canvas counts as a copy.
     dstRect, srcRect: logical pixels, wholly inside their canvases (else nothing happens)
     value: its low byte is the amount a
     Returns: 1; 0 for None"""
@@ -944,7 +948,7 @@ def BlendCanvas(dst, dstRect, src, srcRect, alpha):
     destination has it or alpha is below 255, the source counts as opaque and is blended by the constant alpha, but for
     draws that are both stretched and clipped; else it is copied, alpha included. Stretching is nearest. When either
     canvas is on a host's device context, GDI does the transfer: AlphaBlend for a source with alpha, else StretchBlt,
-    which ignores alpha and obeys the target's stretch mode.
+    which ignores alpha and obeys the target's stretch mode. Drawn unstretched onto itself, a canvas counts as a copy.
     dstRect, srcRect: logical pixels
     alpha: opacity; without effect on a source with alpha between surfaces
     Returns: 1, or GDI's result; 0 for None"""
@@ -1309,7 +1313,8 @@ def GradientDestroy(gradient):
 @_export(c_int, HGCANVAS, POINTER(RECT), HPEN, HBRUSH)
 def GeoRectangle(canvas, rect, pen, brush):
     """Outlines a rectangle. On a canvas with OP_SOURCE_OVER the library draws one opaque pixel in the pen's colour,
-    so that alpha survives; otherwise GDI draws with pen and brush.
+    so that alpha survives; otherwise GDI draws with pen and brush. It gets edges outside the clip
+    nearer than they are, by whole periods of the pen's dashes.
     rect: logical pixels
     pen: None, black
     brush: None, the inside stays

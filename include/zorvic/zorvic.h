@@ -93,7 +93,7 @@ ZORVIC_API void ZORVIC_CALL ReleaseBitmap(HGBITMAP bitmap);
 /** The bitmap's pixels as a GDI bitmap. A bitmap in heap memory is first turned into a 32-bit DIB section, once and
  *  for good, which moves its pixels; earlier locks end.
  *  \return a handle that stays the bitmap's and must not be deleted by the host; 0 for NULL, for a bitmap without
- *          pixels of its own, or when GDI refuses: a bitmap has lost its pixels then, a canvas keeps its surface's */
+ *          pixels of its own, or when GDI refuses. A bitmap has lost its pixels then, a canvas has not */
 ZORVIC_API HBITMAP ZORVIC_CALL GetBitmapHandle(HGBITMAP bitmap);
 
 /** Writes width and height in pixels (0 and 0 without pixels). \return 1; 0 for NULL */
@@ -783,8 +783,8 @@ ZORVIC_API void ZORVIC_CALL GradientDestroy(HGGRADIENT gradient);
 /* ------------------------------------------------------------------------------------------------------ outlines */
 
 /** Outlines a rectangle. On a canvas with ZORVIC_OP_SOURCE_OVER the library draws one opaque pixel in the pen's colour,
- *  so that alpha survives; otherwise GDI draws with pen and brush. Edges far outside the clip are brought nearer before, by
- *  whole periods of the pen's dashes.
+ *  so that alpha survives; otherwise GDI draws with pen and brush. It gets edges outside the clip
+ *  nearer than they are, by whole periods of the pen's dashes.
  *  \param rect   logical pixels
  *  \param pen    NULL, black
  *  \param brush  NULL, the inside stays

@@ -42,7 +42,7 @@ int DrawRectangle(HGCANVAS canvas, float x, float y, float width, float height) 
 }
 
 int DrawRoundRect(HGCANVAS canvas, const RECT* rect, float rx, float ry) {
-    return rect ? Draw(canvas, vekCanvasDrawRoundRect, rect, rx, ry) : 0;
+    return rect ? Draw(canvas, zorvic::DrawRoundRect, *rect, rx, ry) : 0;
 }
 
 int DrawCircle(HGCANVAS canvas, float cx, float cy, float radius) {
@@ -62,7 +62,7 @@ int DrawBezier(HGCANVAS canvas, const POINT* p0, const POINT* p1, const POINT* p
 }
 
 int DrawColor(HGCANVAS canvas, DWORD color, const RECT* rect) {
-    return rect ? Draw(canvas, vekCanvasDrawColor, color, rect) : 0;
+    return rect ? Draw(canvas, zorvic::DrawColor, color, *rect) : 0;
 }
 
 int DrawPath(HGCANVAS canvas, HGPATH path) { return Draw(canvas, vekCanvasDrawPath, reinterpret_cast<VekPath>(path)); }

@@ -2,8 +2,10 @@
 #include "draw/outlines.h"
 
 #include "draw/fills.h"
+#include "draw/gdi_rectangle.h"
 #include "draw/raster_frame.h"
 #include "draw/vector_fills.h"
+#include "draw/vector_shapes.h"
 #include "raster/request.h"
 
 namespace zorvic {
@@ -24,24 +26,6 @@ LOGPEN Describe(HPEN pen) {
     LOGPEN record{};
     if (pen) GetObjectW(pen, sizeof record, &record);
     return record;
-}
-
-class SelectedObject {
-public:
-    SelectedObject(HDC targetDc, HGDIOBJ object) : dc(targetDc), previous(SelectObject(targetDc, object)) {}
-    ~SelectedObject() { SelectObject(dc, previous); }
-    SelectedObject(const SelectedObject&) = delete;
-    SelectedObject& operator=(const SelectedObject&) = delete;
-
-private:
-    HDC dc;
-    HGDIOBJ previous;
-};
-
-void DrawGdiRectangle(Canvas& canvas, const RECT& rect, HGDIOBJ pen, HGDIOBJ brush) {
-    const HDC dc = canvas.MakeDc();
-    const SelectedObject selectedPen(dc, pen), selectedBrush(dc, brush);
-    Rectangle(dc, rect.left, rect.top, rect.right, rect.bottom);
 }
 
 }  // namespace
@@ -71,7 +55,7 @@ int StrokeRoundRect(Canvas& canvas, const RECT& rect, POINT corner, DWORD color,
     vekCanvasSetDrawStyle(style.Get(), VEK_DRAW_STROKE);
     vekCanvasSetStrokeWidth(style.Get(), static_cast<float>(width));
     const VectorFrame frame(canvas);
-    return vekCanvasDrawRoundRect(frame.Get(), &rect, static_cast<float>(corner.x), static_cast<float>(corner.y));
+    return DrawRoundRect(frame.Get(), rect, static_cast<float>(corner.x), static_cast<float>(corner.y));
 }
 
 int DrawRoundRectWithPen(Canvas& canvas, const RECT& rect, POINT corner, HPEN pen) {
@@ -86,7 +70,7 @@ int DrawRoundRectWithPen(Canvas& canvas, const RECT& rect, POINT corner, HPEN pe
         vekCanvasSetDashStyle(style.Get(), static_cast<int>(dash));
     }
     const VectorFrame frame(canvas);
-    return vekCanvasDrawRoundRect(frame.Get(), &rect, static_cast<float>(corner.x), static_cast<float>(corner.y));
+    return DrawRoundRect(frame.Get(), rect, static_cast<float>(corner.x), static_cast<float>(corner.y));
 }
 
 int DrawFocusFrame(Canvas& canvas, const RECT& rect, DWORD color) {

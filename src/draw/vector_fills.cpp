@@ -2,6 +2,7 @@
 #include "draw/vector_fills.h"
 
 #include "draw/fills.h"
+#include "draw/vector_shapes.h"
 #include "zorvic/zorvic.h"
 
 namespace zorvic {
@@ -45,14 +46,15 @@ int FillRoundRect(Canvas& canvas, const RECT& rect, POINT corner, DWORD color) {
     const FillStyle style(canvas, color);
     if (!style) return 0;
     const VectorFrame frame(canvas);
-    return vekCanvasDrawRoundRect(frame.Get(), &rect, static_cast<float>(corner.x), static_cast<float>(corner.y));
+    return DrawRoundRect(frame.Get(), rect, static_cast<float>(corner.x), static_cast<float>(corner.y));
 }
 
 int FillGradient(Canvas* canvas, DWORD from, DWORD to, const RECT* rect, GradientDirection direction) {
     const bool down = direction == GradientDirection::topToBottom;
-    if (Premultiply(from) == Premultiply(to) || (!down && direction != GradientDirection::leftToRight))
+    const bool plain = Premultiply(from) == Premultiply(to);
+    if (!canvas && !plain) return 0;
+    if (plain || (!down && direction != GradientDirection::leftToRight))
         return FillColor(canvas, Premultiply(from), rect, ZORVIC_OP_SOURCE_OVER);
-    if (!canvas) return 0;
     if (!rect || IsEmpty(canvas->VisiblePart(*rect))) return 1;
 
     const VectorSave style(canvas->VectorCanvas());

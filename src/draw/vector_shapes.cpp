@@ -1,4 +1,4 @@
-// Building and drawing of the temporary paths.
+// Copies of rectangles, and building and drawing of the temporary paths.
 #include "draw/vector_shapes.h"
 
 namespace zorvic {
@@ -14,6 +14,16 @@ float X(POINT point) { return static_cast<float>(point.x); }
 float Y(POINT point) { return static_cast<float>(point.y); }
 
 }  // namespace
+
+int DrawRoundRect(VekCanvas canvas, const RECT& rect, float rx, float ry) {
+    alignas(16) const RECT copy = rect;
+    return vekCanvasDrawRoundRect(canvas, &copy, rx, ry);
+}
+
+int DrawColor(VekCanvas canvas, DWORD color, const RECT& rect) {
+    alignas(16) const RECT copy = rect;
+    return vekCanvasDrawColor(canvas, color, &copy);
+}
 
 int DrawPolygon(VekCanvas canvas, unsigned count, const POINT* points) {
     const OwnedPath path(vekPathCreate());

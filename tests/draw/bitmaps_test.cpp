@@ -62,6 +62,27 @@ TEST(Bitmaps, PartsOfTheSourceMustLieInsideIt) {
     EXPECT_TRUE(Shows(canvas.get(), [&](int x, int y) { return Inside(dst, x, y) ? Pattern{}(x + 6, y + 4) : 0; }));
 }
 
+// Bits that are fewer than 8 for each pixel cannot be locked.
+TEST(Bitmaps, WithoutReachablePixelsDrawNothingAndReturnOne) {
+    const OwnedBitmap bitmap = MakeBitmap(12, 9, 4, 16);
+    const OwnedTexture texture(CreateTextureEx(12, 9, 4, 16));
+    const OwnedCanvas canvas = MakeCanvas(12, 9, Pattern{});
+    const HGCANVAS c = canvas.get();
+    const RECT dst{1, 1, 6, 5}, part{0, 0, 4, 4};
+    TextureDrawParams params{};
+    params.alpha = 255;
+    SetTextureSlice(texture.get(), 1, &part);
+    EXPECT_EQ(DrawBitmap(c, &dst, bitmap.get(), 0), 1);
+    EXPECT_EQ(DrawBitmap(c, nullptr, bitmap.get(), 0), 1);
+    EXPECT_EQ(DrawBitmapEx2(c, &dst, bitmap.get(), &part, 0, 255), 1);
+    EXPECT_EQ(DrawModulation(c, 0, 0, bitmap.get(), &part, 0x80FFFFFF), 1);
+    for (params.rounded = 0; params.rounded < 2; ++params.rounded)
+        EXPECT_EQ(DrawTextureEx3(c, &dst, texture.get(), &params, nullptr), 1) << params.rounded;
+    EXPECT_EQ(DrawTextureCenter(c, &dst, texture.get(), &part, 0, 255), 1);
+    EXPECT_EQ(DrawTextureUniform(c, &dst, texture.get(), &part, 0, 255, false), 1);
+    EXPECT_TRUE(Shows(c, Pattern{}));
+}
+
 TEST(Textures, DrawTheCurrentSlice) {
     const OwnedTexture texture(CreateTexture(12, 4));
     Fill(texture.get(), Pattern{});

@@ -66,4 +66,8 @@ TEST(Fills, ColorsThatChangeNothingNeedNoCanvas) {
          {Fill{0x00FFFFFF, 0x05000000}, {0x00FFFFFF, 0x07000000}, {0x00000000, 0x00000000}, {0xFFFFFFFF, 0x01000000}})
         EXPECT_EQ(FillSolidRectEx(nullptr, color, &whole, mode), 0) << color << ' ' << mode;
     EXPECT_EQ(FillSolidRect(nullptr, 0, &whole), 1);
+    // A gradient of two colours does, whatever its direction.
+    for (const DWORD direction : {0UL, 1UL, 2UL, 3UL})
+        EXPECT_EQ(FillGradualRect(nullptr, 0x00FFFFFF, 0xFFFFFFFF, &whole, direction), 0) << direction;
+    EXPECT_EQ(FillGradualRect(nullptr, 0x00FFFFFF, 0, &whole, 0), 1) << "both premultiplied alike";
 }

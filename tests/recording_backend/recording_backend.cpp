@@ -10,6 +10,7 @@
 // Creating canvases fails while this is not 0.
 extern "C" {
 __declspec(dllexport) int vekRefuseCanvases = 0;
+__declspec(dllexport) int vekMisalignedRects = 0;  // how many did not lie at a multiple of 16 bytes
 }
 
 namespace {
@@ -20,7 +21,10 @@ void Write(float value) { log << ' ' << value; }
 void Write(int value) { log << ' ' << value; }
 void Write(DWORD color) { log << " #" << std::hex << color << std::dec; }
 void Write(const float* lengths) { log << ' ' << *lengths; }
-void Write(const RECT* r) { log << " (" << r->left << ' ' << r->top << ' ' << r->right << ' ' << r->bottom << ')'; }
+void Write(const RECT* r) {
+    vekMisalignedRects += reinterpret_cast<std::uintptr_t>(r) % 16 != 0;
+    log << " (" << r->left << ' ' << r->top << ' ' << r->right << ' ' << r->bottom << ')';
+}
 void Write(VekBounds* bounds) { *bounds = {1, 2, 3, 4}; }
 void Write(const void* handle) {
     if (!handle) log << " null";

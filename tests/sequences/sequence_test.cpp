@@ -1,15 +1,18 @@
 // What zorvic32.dll says to its vector backend, as sequences of calls: a recording backend stands in for vekgraphic.dll.
+#include <bit>
+#include <cstring>
 #include <functional>
 #include <map>
 #include <span>
 
+#include "support/cpu_state.h"
 #include "support/host.h"
 
 using namespace host;
 
 // Of the recording backend.
 extern "C" __declspec(dllimport) const char* __cdecl vekRecordedCalls(void);
-extern "C" __declspec(dllimport) int vekRefuseCanvases;
+extern "C" __declspec(dllimport) int vekRefuseCanvases, vekMisalignedRects;
 
 namespace {
 
@@ -124,6 +127,34 @@ TEST(Sequences, EveryCallSaysWhatItShould) {
     const OwnedCanvas canvas = MakeCanvas();
     ExpectCalls(sequences, canvas.get());
     EXPECT_TRUE(Shows(canvas.get(), [](int x, int y) { return Inside({5, 13, 25, 22}, x, y) ? 0xFFFF0000U : 0U; }));
+}
+
+TEST(Sequences, RectanglesAreAlignedWhateverTheHostsAre) {
+    const OwnedCanvas canvas = MakeCanvas();
+    BYTE room[sizeof rect + 16];
+    for (int residue = 0; residue < 16; residue += 4) {  // of the stack
+        const auto call = [residue](auto function, auto... arguments) {
+#if ZORVIC_WATCHES_CALLS
+            const std::uint32_t words[] = {std::bit_cast<std::uint32_t>(arguments)...};
+            zorvic::CallWatched(reinterpret_cast<const void*>(function), words, residue);
+#else
+            function(arguments...);
+#endif
+        };
+        for (int shift = 0; shift < 16; ++shift) {
+            const auto* const moved = reinterpret_cast<const RECT*>(std::memcpy(room + shift, &rect, sizeof rect));
+            vekMisalignedRects = 0;
+            vekRecordedCalls();
+            call(DrawRoundRect, canvas.get(), moved, 2.0F, 3.0F);
+            call(DrawColor, canvas.get(), 0UL, moved);
+            call(FillRoundRectEx, canvas.get(), moved, &corner, 0UL);
+            call(GeoRoundRect, canvas.get(), moved, &corner, HPEN{});
+            call(GeoRoundRectEx, canvas.get(), moved, &corner, 0UL, 1);
+            ASSERT_EQ(vekMisalignedRects, 0) << "stack " << residue << ", rectangle " << shift;
+            const std::string calls = vekRecordedCalls();
+            EXPECT_NE(calls.find("DrawRoundRect (5 6 25 16) 2 3"), calls.npos);
+        }
+    }
 }
 
 TEST(Sequences, TheBackendIsBoundOnFirstUseAndWhenThePixelsMove) {
