@@ -186,7 +186,7 @@ ZORVIC_API HGTEXTURE ZORVIC_CALL BitmapToTexture(HGBITMAP bitmap);
 ZORVIC_API HGTEXTURE ZORVIC_CALL CanvasToTexture(HGCANVAS canvas);
 
 /** Writes the size of the current slice, or of the surface when there are no slices, in pixels.
- *  \return 1; 0 for NULL, or when there are slices but none is current */
+ *  \return 1; 0 for NULL */
 ZORVIC_API int ZORVIC_CALL GetTextureSize(HGTEXTURE texture, SIZE* size);
 
 /** Copies a layout record in. \return 1; 0 for NULL */
@@ -911,7 +911,7 @@ ZORVIC_API int ZORVIC_CALL BlurTexture(HGTEXTURE dst, HGTEXTURE src);
  *  \param texture  8 (palette), 24 (always the whole area) or 32 bits; a bitmap will do
  *  \param area     surface pixels, inside the surface; NULL, all of it. Its corner is the region's origin
  *  \return a region that is the caller's to delete; NULL for NULL, an area that is not inside, another depth, or
- *          when memory is short */
+ *          when memory is short. When memory runs short halfway, the region has the parts that could be made */
 ZORVIC_API HRGN ZORVIC_CALL CreateTextureRgn(HGTEXTURE texture, const RECT* area);
 
 /* -------------------------------------------------------------------------------------- pixels in the host's memory

@@ -12,12 +12,15 @@ namespace zorvic {
 
 namespace {
 
-// Rectangles go to GDI by the batch: one call for all would ask it for a block of any size, one call each is slow.
+// GDI joins the rectangles of a call one after another, each at the cost of all before it, and a region to another at the
+// cost of both. So each call has only a few, and only regions of as many calls are joined: n rectangles cost n log n.
+// What GDI refuses is left out.
 class RegionBuilder {
 public:
     RegionBuilder() { Start(); }
     ~RegionBuilder() {
-        if (region) DeleteObject(region);
+        for (const HRGN part : parts)
+            if (part) DeleteObject(part);
     }
     RegionBuilder(const RegionBuilder&) = delete;
     RegionBuilder& operator=(const RegionBuilder&) = delete;
@@ -30,32 +33,40 @@ public:
         if (batch.header.nCount == batchSize) Flush();
     }
 
-    // The caller owns it. Null when GDI has refused a part.
+    // The caller owns it. Null when GDI has refused every part.
     HRGN Finish() {
+        if (calls == 0 && batch.header.nCount == 0) return CreateRectRgn(0, 0, 0, 0);
         if (batch.header.nCount > 0) Flush();
-        if (refused) return nullptr;
-        return region ? std::exchange(region, nullptr) : CreateRectRgn(0, 0, 0, 0);
+        HRGN region = nullptr;
+        for (HRGN& part : parts) region = Join(std::exchange(part, nullptr), region);
+        return region;
     }
 
 private:
-    static constexpr DWORD batchSize = 2000;
+    static constexpr DWORD batchSize = 32;
 
     void Start() { batch.header = {sizeof batch.header, RDH_RECTANGLES, 0, 0, {INT_MAX, INT_MAX, 0, 0}}; }
 
     void Flush() {
-        const HRGN part = ExtCreateRegion(nullptr, sizeof batch, reinterpret_cast<const RGNDATA*>(&batch));
+        HRGN region = ExtCreateRegion(nullptr, sizeof batch, reinterpret_cast<const RGNDATA*>(&batch));
         Start();
-        if (!part) refused = true;
-        if (!region) {
-            region = part;
-        } else {
-            if (CombineRgn(region, region, part, RGN_OR) == ERROR) refused = true;
-            DeleteObject(part);
-        }
+        // The bits of the number of calls say which parts there are.
+        std::size_t i = 0;
+        for (; (calls >> i & 1) != 0; ++i) region = Join(std::exchange(parts[i], nullptr), region);
+        parts[i] = region;
+        ++calls;
     }
 
-    HRGN region = nullptr;
-    bool refused = false;
+    // Either may be null. When GDI refuses, the lower one is lost.
+    static HRGN Join(HRGN upper, HRGN lower) {
+        if (!upper || !lower) return upper ? upper : lower;
+        CombineRgn(upper, upper, lower, RGN_OR);
+        DeleteObject(lower);
+        return upper;
+    }
+
+    std::uint32_t calls = 0;
+    HRGN parts[32] = {};  // of 1, 2, 4... calls; what comes later in the image stands before what comes earlier
     struct {
         RGNDATAHEADER header;
         RECT rects[batchSize];
@@ -63,6 +74,27 @@ private:
 };
 
 constexpr std::uint32_t transparentBlack = 0;
+
+// Calls use(run) for the runs of a row, until it returns false. Returns whether it never did.
+template <class Use>
+bool EveryRun(const BitmapLockInfo& image, int y, Use use) {
+    for (Run run = NextRun(image, y, 0, transparentBlack); run.first < run.end;
+         run = NextRun(image, y, run.end, transparentBlack))
+        if (!use(run)) return false;
+    return true;
+}
+
+bool HaveSameRuns(const BitmapLockInfo& image, int y, int otherY) {
+    int end = 0;  // of the last run of both
+    const auto isInOther = [&](const Run& run) {
+        const Run other = NextRun(image, otherY, end, transparentBlack);
+        end = run.end;
+        return other.first == run.first && other.end == run.end;
+    };
+    if (!EveryRun(image, y, isInOther)) return false;
+    const Run rest = NextRun(image, otherY, end, transparentBlack);
+    return rest.first == rest.end;
+}
 
 }  // namespace
 
@@ -81,10 +113,14 @@ HRGN MakeRegion(const Bitmap& bitmap, const RECT* area) {
     const SurfaceLock image(bitmap, &part);
     if (!image || (image->bmBitsPixel != 8 && image->bmBitsPixel != 24 && image->bmBitsPixel != 32)) return nullptr;
     RegionBuilder region;
-    for (int y = 0; y < height; ++y)
-        for (Run run = NextRun(*image, y, 0, transparentBlack); run.first < run.end;
-             run = NextRun(*image, y, run.end, transparentBlack))
-            region.Add({run.first, y, run.end, y + 1});
+    for (int top = 0, bottom = 0; top < height; top = bottom) {
+        for (bottom = top + 1; bottom < height && HaveSameRuns(*image, top, bottom); ++bottom) {
+        }
+        EveryRun(*image, top, [&](const Run& run) {
+            region.Add({run.first, top, run.end, bottom});
+            return true;
+        });
+    }
     return region.Finish();
 }
 
