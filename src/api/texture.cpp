@@ -31,7 +31,9 @@ HGTEXTURE ZORVIC_CALL CanvasToTexture(HGCANVAS canvas) {
 }
 
 int ZORVIC_CALL GetTextureSize(HGTEXTURE texture, SIZE* size) {
-    return texture && size && FromHandle(texture)->ImageSize(*size);
+    if (!texture || !size) return 0;
+    *size = FromHandle(texture)->ImageSize();
+    return 1;
 }
 
 int ZORVIC_CALL SetTextureMode(HGTEXTURE texture, const TextureMode* mode) {
@@ -62,5 +64,5 @@ int ZORVIC_CALL GetTextureCurSlice(HGTEXTURE texture, RECT* slice) {
 }
 
 int ZORVIC_CALL GetTextureSliceCount(HGTEXTURE texture) {
-    return texture ? static_cast<int>(FromHandle(texture)->slices.size()) : -1;
+    return texture ? static_cast<int>(FromHandle(texture)->SliceCount()) : -1;
 }

@@ -31,8 +31,7 @@ int Texture::SelectSlice(int index) {
 }
 
 const RECT* Texture::CurrentSlice() const {
-    if (curSlice < 0 || static_cast<std::size_t>(curSlice) >= slices.size()) return nullptr;
-    return &slices[static_cast<std::size_t>(curSlice)];
+    return slices.empty() ? nullptr : &slices[static_cast<std::size_t>(curSlice)];
 }
 
 RECT Texture::SliceOrAll() const {
@@ -41,11 +40,9 @@ RECT Texture::SliceOrAll() const {
     return {0, 0, surface.cx, surface.cy};
 }
 
-bool Texture::ImageSize(SIZE& size) const {
-    const RECT* slice = CurrentSlice();
-    if (!slice && !slices.empty()) return false;
-    size = slice ? SIZE{Extent(slice->left, slice->right), Extent(slice->top, slice->bottom)} : Size();
-    return true;
+SIZE Texture::ImageSize() const {
+    const RECT image = SliceOrAll();
+    return {Extent(image.left, image.right), Extent(image.top, image.bottom)};
 }
 
 std::unique_ptr<Texture> IntoTexture(std::unique_ptr<Bitmap> bitmap) {

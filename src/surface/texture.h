@@ -17,14 +17,17 @@ public:
     bool SetSlices(const RECT* rects, std::size_t count);
     // Returns the previous index; -1 without a change for an index outside the slices.
     int SelectSlice(int index);
-    // The current slice's rectangle; null when there is none (no slices, or no valid index).
+    // The current slice's rectangle; null when there are no slices. Of several, one is always current.
     const RECT* CurrentSlice() const;
     // The current slice, or the whole surface when there is none.
     RECT SliceOrAll() const;
-    // The current slice's size, or the surface's when there are no slices; false when there are, but none is current.
-    bool ImageSize(SIZE& size) const;
+    SIZE ImageSize() const;  // the size of that
+
+    std::size_t SliceCount() const { return slices.size(); }
 
     TextureMode mode{};
+
+private:
     std::vector<RECT> slices;
     int curSlice = -1;
 };
