@@ -1,4 +1,5 @@
-// The mask is drawn white by the vector backend at the texture's own size, and the texture into the mask.
+// The shape is drawn white by the vector backend, and the picture into it: in each direction at the smaller of the
+// texture's size and the destination's. So a reduced texture costs what is shown of it, and its edges are smooth.
 #include "draw/rounded.h"
 
 #include <algorithm>
@@ -7,7 +8,8 @@
 
 #include "canvas/vector_canvas.h"
 #include "draw/bitmaps.h"
-#include "raster/kernel_table.h"
+#include "draw/coordinates.h"
+#include "raster/selectors.h"
 #include "zorvic/zorvic.h"
 
 namespace zorvic {
@@ -19,27 +21,52 @@ struct VekBitmapDeleter {
 };
 using OwnedVekBitmap = std::unique_ptr<VekBitmap__, VekBitmapDeleter>;
 
-bool DrawInto(VekCanvas mask, const BitmapLockInfo& pixels) {
-    const OwnedVekBitmap bitmap(
-        vekBitmapCreateFromData(pixels.bmBits, pixels.bmWidth, pixels.bmHeight, pixels.bmWidthBytes));
-    vekCanvasSetBlendMode(mask, VEK_BLEND_SOURCE_IN);
-    const bool drawn = vekCanvasDrawBitmap(mask, bitmap.get(), 0, 0);
-    vekCanvasSetBlendMode(mask, VEK_BLEND_SOURCE_OVER);
-    return drawn;
+// The extent at which the picture is cut, and the rows of it that are needed. All columns are: where an edge leaves the
+// pixels at a side, the backend gives the whole row other coverages.
+struct Frame {
+    LONG width, height, top, bottom;
+
+    std::unique_ptr<Canvas> MakeCanvas() const {
+        return Canvas::Create(width, bottom - top, StoreKind::memory, nullptr);
+    }
+};
+
+std::unique_ptr<Canvas> Stretch(const Frame& frame, const Texture& texture, DWORD filterMode) {
+    auto picture = frame.MakeCanvas();
+    const SurfaceLock source(texture);
+    if (!picture || !source) return nullptr;
+    const SurfaceLock pixels(*picture->Surface());
+    if (!pixels) return nullptr;
+    const Placement placement{0, frame.top, frame.width, frame.height};
+    SelectPlacedKernel(*pixels, placement, *source, ZORVIC_OP_SOURCE_OVER, filterMode, 255);
+    return picture;
 }
 
-// The backend knows 32-bit pixels only.
-bool DrawInto(VekCanvas mask, const Bitmap& texture) {
-    const SurfaceLock pixels(texture);
+// The shape in coordinates of the whole extent, so that a part has the whole one's pixels.
+void DrawShape(VekCanvas canvas, const Frame& frame, const TextureDrawParams& params, const RECT& dst) {
+    const RECT box{0, 0, frame.width, frame.height};
+    const auto width = static_cast<float>(frame.width), height = static_cast<float>(frame.height);
+    const auto top = static_cast<float>(frame.top);
+    if (frame.top > 0) vekCanvasTranslate(canvas, 0, -top);
+    if (params.ellipse) {
+        vekCanvasDrawEllipse(canvas, 0, 0, width, height);
+    } else {
+        const float scaleX = width / static_cast<float>(WidthOf(dst));
+        const float scaleY = height / static_cast<float>(HeightOf(dst));
+        vekCanvasDrawRoundRect(canvas, &box, params.cornerRadii[0] * scaleX, params.cornerRadii[1] * scaleY);
+    }
+    if (frame.top > 0) vekCanvasTranslate(canvas, 0, top);
+}
+
+bool DrawInto(VekCanvas shape, const Canvas& picture) {
+    const SurfaceLock pixels(*picture.Surface());
     if (!pixels) return false;
-    if (pixels->bmBitsPixel == 32) return DrawInto(mask, *pixels);
-    // Not a bitmap, of whose end the resource manager would be told in the middle of the draw.
-    MemoryPixelStore widened;
-    BITMAP description{0, pixels->bmWidth, pixels->bmHeight, 0, 1, 32, nullptr};
-    BitmapLockInfo target;
-    if (!widened.Create(&description, 0) || !widened.LockEx(&target, nullptr)) return false;
-    KernelTable.At(slots::copySameSize, DepthOf(pixels->bmBitsPixel))(target, *pixels);
-    return DrawInto(mask, target);
+    const OwnedVekBitmap bitmap(
+        vekBitmapCreateFromData(pixels->bmBits, pixels->bmWidth, pixels->bmHeight, pixels->bmWidthBytes));
+    vekCanvasSetBlendMode(shape, VEK_BLEND_SOURCE_IN);
+    const bool drawn = vekCanvasDrawBitmap(shape, bitmap.get(), 0, 0);
+    vekCanvasSetBlendMode(shape, VEK_BLEND_SOURCE_OVER);
+    return drawn;
 }
 
 }  // namespace
@@ -50,27 +77,32 @@ bool WantsRounding(const TextureDrawParams& params) {
 }
 
 int DrawRoundedTexture(Canvas& canvas, const RECT& dst, const Texture& texture, const TextureDrawParams& params) {
+    const RECT visible = canvas.VisiblePart(dst);
+    if (IsEmpty(visible)) return 1;
     const SIZE size = texture.Size();
-    const auto cut = IsEmpty(dst) ? nullptr : Canvas::Create(size.cx, size.cy, StoreKind::memory, nullptr);
+    Frame frame{ToCoordinate(std::min<std::int64_t>(size.cx, WidthOf(dst))),
+                ToCoordinate(std::min<std::int64_t>(size.cy, HeightOf(dst))), 0, 0};
+    frame.bottom = frame.height;
+    RECT shown = dst;
+    if (frame.width == WidthOf(dst) && frame.height == HeightOf(dst)) {
+        shown.top = visible.top;
+        shown.bottom = visible.bottom;
+        frame.top = shown.top - dst.top;
+        frame.bottom = shown.bottom - dst.top;
+    }
+
+    const auto picture = Stretch(frame, texture, params.filterMode), cut = picture ? frame.MakeCanvas() : nullptr;
     if (!cut) return 1;
     cut->SetFilter(ZORVIC_OP_SOURCE_OVER);
-
-    const RECT whole{0, 0, size.cx, size.cy};
     {
-        const VectorSave mask(cut->VectorCanvas());
-        if (!mask) return 1;
-        const auto width = static_cast<float>(size.cx), height = static_cast<float>(size.cy);
-        vekCanvasSetColor(mask.Get(), 0xFFFFFFFF);
-        if (params.ellipse) {
-            vekCanvasDrawEllipse(mask.Get(), 0, 0, width, height);
-        } else {
-            const float scaleX = width / static_cast<float>(WidthOf(dst));
-            const float scaleY = height / static_cast<float>(HeightOf(dst));
-            vekCanvasDrawRoundRect(mask.Get(), &whole, params.cornerRadii[0] * scaleX, params.cornerRadii[1] * scaleY);
-        }
-        if (!DrawInto(mask.Get(), texture)) return 1;  // of the mask alone nothing is to be seen
+        const VectorSave shape(cut->VectorCanvas());
+        if (!shape) return 1;
+        vekCanvasSetColor(shape.Get(), 0xFFFFFFFF);
+        DrawShape(shape.Get(), frame, params, dst);
+        if (!DrawInto(shape.Get(), *picture)) return 1;  // of the shape alone nothing is to be seen
     }
-    return DrawBitmapRect(canvas, dst, *cut->Surface(), whole, params.filterMode, params.alpha);
+    const RECT whole{0, 0, frame.width, frame.bottom - frame.top};
+    return DrawBitmapRect(canvas, shown, *cut->Surface(), whole, params.filterMode, params.alpha);
 }
 
 }  // namespace zorvic

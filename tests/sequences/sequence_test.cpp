@@ -198,6 +198,24 @@ TEST(Sequences, RoundedTexturesAreDrawnIntoAMask) {
     }
 }
 
+// Of the destination, the visible rows.
+TEST(Sequences, ReducedTexturesAreCutOnTheDestination) {
+    const OwnedTexture texture(CreateTexture(40, 50));
+    const OwnedCanvas canvas(CreateCanvas(12, 12, nullptr));
+    const RECT dst{5, -10, 25, 10};
+    TextureDrawParams params{};
+    params.alpha = 255;
+    params.cornerRadii[0] = 8;
+    params.cornerRadii[1] = 6;
+    vekRecordedCalls();
+    EXPECT_EQ(DrawTextureEx3(canvas.get(), &dst, texture.get(), &params, nullptr), 1);
+    EXPECT_STREQ(vekRecordedCalls(),
+                 "Create\nBitmapCreateFromData 20 10 80\nSetBitmap\nBitmapDestroy\nSave\nSetColor #ffffffff\n"
+                 "Translate 0 -10\nDrawRoundRect (0 0 20 20) 8 6\nTranslate 0 10\n"
+                 "BitmapCreateFromData 20 10 80\nSetBlendMode 4\nDrawBitmap 0 0\nSetBlendMode 0\nBitmapDestroy\n"
+                 "Restore\nDestroy\n");
+}
+
 TEST(Sequences, PathsAndGradientsAreHandedThrough) {
     const HGPATH path = PathCreate();
     const HGGRADIENT gradient = GradientCreateRadial(1, 2, 3, 4, 5, 6);
