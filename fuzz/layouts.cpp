@@ -41,13 +41,33 @@ bool Touches(const Piece& piece, const RECT& visible) { return !IsEmpty(Intersec
 
 bool IsSame(const Piece& a, const Piece& b) { return a.dst == b.dst && a.src == b.src; }
 
+// Calls use(piece) for the pieces of a row that touch the visible part.
+template <class Use>
+void ForEachPiece(const PieceRow& row, const RECT& visible, Use use) {
+    if (IsEmpty(Intersection(row.dst, visible))) return;
+    const LONG right = row.WholeRight();
+    for (std::int64_t left = StepBefore(visible.left, row.dst.left, row.width); left < std::min(visible.right, right);
+         left += row.width)
+        use(Piece{ToRect(left, row.dst.top, left + row.width, row.dst.bottom), row.src});
+    if (visible.right > right && right < row.dst.right) use(row.Last());
+}
+
+template <class Use>
+void ForEachPiece(const Tiles& tiles, const RECT& visible, Use use) {
+    tiles.ForEach(visible, [&](const PieceRow& row) { ForEachPiece(row, visible, use); });
+}
+template <class Use>
+void ForEachPiece(const TopTiles& tiles, const RECT& visible, Use use) {
+    tiles.ForEach([&](const PieceRow& row) { ForEachPiece(row, visible, use); });
+}
+
 // The pieces that touch the visible part; each belongs to a pixel of it that no other has.
 template <class AllTiles>
 std::vector<Piece> PiecesIn(const AllTiles& tiles, const RECT& visible) {
     std::vector<Piece> pieces;
     const std::uint64_t most = 2 * AreaOf(visible);
     std::uint64_t calls = 0;
-    tiles.ForEach(visible, [&](const Piece& piece) {
+    ForEachPiece(tiles, visible, [&](const Piece& piece) {
         if (++calls > most) Fail("more pieces than pixels");
         if (Touches(piece, visible)) pieces.push_back(piece);
     });
@@ -72,7 +92,7 @@ void CheckTiles(Input& input, const RECT& source, const RECT& dst) {
     if (tiles.IsEmpty()) return;
     std::uint64_t covered = 0;
     if (!IsEmpty(visible))
-        tiles.ForEach(visible, [&](const Piece& piece) {
+        ForEachPiece(tiles, visible, [&](const Piece& piece) {
             Check(IsInside(piece.dst, dst) && !IsEmpty(piece.dst), "a tile leaves the destination", piece.dst, dst);
             Check(piece.src.left == source.left && piece.src.top == source.top, "a tile starts elsewhere", piece.src,
                   source);

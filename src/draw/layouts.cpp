@@ -4,6 +4,7 @@
 #include "draw/bitmaps.h"
 #include "draw/nine_grid.h"
 #include "draw/rounded.h"
+#include "raster/repeated.h"
 #include "zorvic/zorvic.h"
 
 namespace zorvic {
@@ -11,6 +12,38 @@ namespace zorvic {
 void DrawPiece(const CanvasLock& target, const Piece& piece, const Texture& texture, const TextureDrawParams& params) {
     DrawBitmapRect(target, piece.dst, texture, piece.src, params.filterMode, params.alpha);
 }
+
+namespace {
+
+// Rows of equal pieces: the whole ones at once, the cut one on its own.
+class RowPainter {
+public:
+    RowPainter(const CanvasLock& lockedTarget, const Texture& drawnTexture, const TextureDrawParams& drawParams)
+        : target(lockedTarget),
+          texture(drawnTexture),
+          params(drawParams),
+          repeated(*target, texture.filter, params.filterMode, params.alpha) {}
+
+    void operator()(const PieceRow& row) {
+        RECT whole = row.dst;
+        whole.right = row.WholeRight();
+        const RECT visible = Intersection(target.Area(), whole);
+        if (const SurfaceLock source(texture, &row.src); source && !IsEmpty(visible))
+            repeated.Draw(target.PartAt(visible),
+                          {std::int64_t{visible.left} - whole.left, std::int64_t{visible.top} - whole.top, row.width,
+                           HeightOf(whole)},
+                          *source);
+        DrawPiece(target, row.Last(), texture, params);
+    }
+
+private:
+    const CanvasLock& target;
+    const Texture& texture;
+    const TextureDrawParams& params;
+    Repeated repeated;
+};
+
+}  // namespace
 
 int DrawTexture(Canvas& canvas, const RECT& dst, const Texture& texture, const TextureDrawParams& params) {
     const RECT* slice = texture.CurrentSlice();
@@ -57,7 +90,7 @@ int DrawTextureTile(Canvas& canvas, const RECT& dst, const Texture& texture, con
     if (tiles.IsEmpty()) return 0;
     const CanvasLock target(canvas, canvas.VisiblePart(dst));
     if (!target) return 0;
-    tiles.ForEach(target.Area(), [&](const Piece& piece) { DrawPiece(target, piece, texture, params); });
+    tiles.ForEach(target.Area(), RowPainter(target, texture, params));
     return 0;
 }
 
@@ -69,7 +102,7 @@ int DrawTextureTopTile(Canvas& canvas, const RECT& dst, const Texture& texture, 
     const TopTiles tiles(*source, dst, margins);
     const CanvasLock target(canvas, canvas.VisiblePart(tiles.Extent()));
     if (!target) return 0;
-    tiles.ForEach(target.Area(), [&](const Piece& piece) { DrawPiece(target, piece, texture, params); });
+    tiles.ForEach(RowPainter(target, texture, params));
     return 0;
 }
 

@@ -2,6 +2,7 @@
 #include "raster/selectors.h"
 
 #include "raster/kernel_table.h"
+#include "raster/saturated_over.h"
 
 namespace zorvic {
 
@@ -60,11 +61,11 @@ constexpr ScaledGroups<Placed, PlacedAlpha, PlacedKey> placed{
     .destinationOverSameSize = slots::destinationOverScaled,
 };
 
-// Calls act with the slot of the draw's kernel, whatever its type, or with std::monostate when nothing is to be drawn.
+// Calls act with the group of the draw's kernel, whatever its type, or with std::monostate when nothing is to be drawn.
 template <class Groups, class Act>
 auto WithKernel(const DrawRequest& request, const Groups& groups, const Act& act) {
     const auto choose = [&](const auto& ofSameSize, const auto& scaled) {
-        return request.sameSize ? act(ofSameSize[request.depth]) : act(scaled[request.depth]);
+        return request.sameSize ? act(ofSameSize) : act(scaled);
     };
     const auto& [depth, sameSize, operation, filter, alpha] = request;
     if (operation == Operation::multiply) return choose(slots::multiplySameSize, groups.multiply);
@@ -82,6 +83,25 @@ auto WithKernel(const DrawRequest& request, const Groups& groups, const Act& act
     return choose(slots::alphaSameSize, groups.alpha[filter]);
 }
 
+// The samples of such rows. At the source's own size, where rows are unscaled, the bilinear kernel copies.
+constexpr const Group<Placed>& PlacedCopyOf(Rows rows) {
+    if (rows == Rows::nearest) return slots::placedCopyNearest;
+    if (rows == Rows::bicubic) return slots::placedCopyBicubic;
+    return rows == Rows::area ? slots::placedCopyArea : slots::placedCopyBilinear;
+}
+
+// Acts with a group's slot for sources of a depth.
+template <class Act>
+struct AtDepth {
+    SourceDepth depth;
+    Act act;
+
+    auto operator()(std::monostate nothing) const { return act(nothing); }
+    auto operator()(const auto& group) const { return act(group[depth]); }
+};
+template <class Act>
+AtDepth(SourceDepth, Act) -> AtDepth<Act>;
+
 // The key as the kernels compare it: 24-bit pixels are opaque, others are keyed by a transparent colour.
 std::uint32_t KeyPixel(std::uint32_t operationWord, SourceDepth depth) {
     return (operationWord & 0x00FFFFFF) | (depth == SourceDepth::rgb24 ? 0xFF000000 : 0);
@@ -90,10 +110,10 @@ std::uint32_t KeyPixel(std::uint32_t operationWord, SourceDepth depth) {
 }  // namespace
 
 DrawChoice ChooseStretchKernel(const DrawRequest& request) {
-    return WithKernel(request, whole, [](auto slot) { return DrawChoice(slot); });
+    return WithKernel(request, whole, AtDepth{request.depth, [](auto slot) { return DrawChoice(slot); }});
 }
 DrawChoice ChoosePlacedKernel(const DrawRequest& request) {
-    return WithKernel(request, placed, [](auto slot) { return DrawChoice(slot); });
+    return WithKernel(request, placed, AtDepth{request.depth, [](auto slot) { return DrawChoice(slot); }});
 }
 
 Slot<Blit> ChooseResizeKernel(SourceDepth depth, bool sameSize, Filter filter) {
@@ -127,22 +147,28 @@ std::optional<Slot<Fill>> ChooseFillKernel(std::uint32_t color, Operation operat
 
 namespace {
 
+DrawRequest RequestOf(const Placement& placement, const BitmapLockInfo& src, std::uint32_t operationWord,
+                      std::uint32_t filterMode, std::uint8_t alpha) {
+    const bool sameSize = src.bmWidth == placement.width && src.bmHeight == placement.height;
+    return {DepthOf(src.bmBitsPixel), sameSize, OperationOf(operationWord), FilterOf(filterMode), alpha};
+}
+
 // Calls the kernel of a draw. part(): the source as kernels without a placement read it.
 template <class Groups, class Part>
 int Draw(const Groups& groups, const BitmapLockInfo& dst, const Placement& placement, const BitmapLockInfo& src,
          const Part& part, std::uint32_t operationWord, std::uint32_t filterMode, std::uint8_t alpha) {
     if (IsEmpty(dst) || IsEmpty(src)) return 1;
-    const SourceDepth depth = DepthOf(src.bmBitsPixel);
-    const bool sameSize = src.bmWidth == placement.width && src.bmHeight == placement.height;
-    const auto key = [&] { return KeyPixel(operationWord, depth); };
-    WithKernel(
-        {depth, sameSize, OperationOf(operationWord), FilterOf(filterMode), alpha}, groups,
-        Overloaded{[](std::monostate) { return 1; }, [&](Slot<Blit> slot) { return KernelTable.At(slot)(dst, part()); },
+    const DrawRequest request = RequestOf(placement, src, operationWord, filterMode, alpha);
+    const auto key = [&] { return KeyPixel(operationWord, request.depth); };
+    const auto run =
+        Overloaded{[](std::monostate) { return 1; },
+                   [&](Slot<Blit> slot) { return KernelTable.At(slot)(dst, part()); },
                    [&](Slot<BlitAlpha> slot) { return KernelTable.At(slot)(dst, part(), alpha); },
                    [&](Slot<BlitKey> slot) { return KernelTable.At(slot)(dst, part(), key()); },
                    [&](Slot<Placed> slot) { return KernelTable.At(slot)(dst, placement, src); },
                    [&](Slot<PlacedAlpha> slot) { return KernelTable.At(slot)(dst, placement, src, alpha); },
-                   [&](Slot<PlacedKey> slot) { return KernelTable.At(slot)(dst, placement, src, key()); }});
+                   [&](Slot<PlacedKey> slot) { return KernelTable.At(slot)(dst, placement, src, key()); }};
+    WithKernel(request, groups, AtDepth{request.depth, run});
     return 1;
 }
 
@@ -162,6 +188,36 @@ int SelectPlacedKernel(const BitmapLockInfo& dst, const Placement& placement, co
                       dst.bmHeight);
     };
     return Draw(placed, dst, placement, src, part, operationWord, filterMode, alpha);
+}
+
+int SelectSamplingKernel(const BitmapLockInfo& samples, const Placement& placement, const BitmapLockInfo& src,
+                         std::uint32_t operationWord, std::uint32_t filterMode, std::uint8_t alpha) {
+    const DrawRequest request = RequestOf(placement, src, operationWord, filterMode, alpha);
+    const auto rowsOf =
+        Overloaded{[](std::monostate) { return Rows::unscaled; }, [](const auto& group) { return group.rows; }};
+    return KernelTable.At(PlacedCopyOf(WithKernel(request, placed, rowsOf)), request.depth)(samples, placement, src);
+}
+
+int SelectSampledKernel(const BitmapLockInfo& dst, const BitmapLockInfo& samples, const Placement& placement,
+                        const BitmapLockInfo& src, std::uint32_t operationWord, std::uint32_t filterMode,
+                        std::uint8_t alpha) {
+    const DrawRequest request = RequestOf(placement, src, operationWord, filterMode, alpha);
+    const auto run = Overloaded{[](std::monostate) { return 1; },
+                                [&](const Group<Blit>& group) {
+                                    if (group.op == Op::copy)
+                                        return KernelTable.At(slots::copySameSize, SourceDepth::argb32)(dst, samples);
+                                    if (group.rows == Rows::bicubic) return DrawSaturatedOver(dst, samples, alpha);
+                                    return KernelTable.At(group, SourceDepth::argb32)(dst, samples);
+                                },
+                                [&](const Group<BlitAlpha>& group) {
+                                    if (group.rows == Rows::bicubic) return DrawSaturatedOver(dst, samples, alpha);
+                                    return KernelTable.At(group, SourceDepth::argb32)(dst, samples, alpha);
+                                },
+                                [&](const Group<BlitKey>& group) {
+                                    return KernelTable.At(group, SourceDepth::argb32)(
+                                        dst, samples, KeyPixel(operationWord, request.depth));
+                                }};
+    return WithKernel(request, whole, run);
 }
 
 int SelectFillKernel(const BitmapLockInfo& dst, std::uint32_t color, std::uint32_t operationWord) {

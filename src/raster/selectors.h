@@ -35,6 +35,14 @@ int SelectStretchKernel(const BitmapLockInfo& dst, const BitmapLockInfo& src, st
 int SelectPlacedKernel(const BitmapLockInfo& dst, const Placement& placement, const BitmapLockInfo& src,
                        std::uint32_t operationWord, std::uint32_t filterMode, std::uint8_t alpha);
 
+// SelectPlacedKernel in two steps, of which the second can be repeated. First the 32-bit samples that the draw takes from
+// the source, then what it does with such samples, as many as dst has pixels. Both return 1; neither image is empty.
+int SelectSamplingKernel(const BitmapLockInfo& samples, const Placement& placement, const BitmapLockInfo& src,
+                         std::uint32_t operationWord, std::uint32_t filterMode, std::uint8_t alpha);
+int SelectSampledKernel(const BitmapLockInfo& dst, const BitmapLockInfo& samples, const Placement& placement,
+                        const BitmapLockInfo& src, std::uint32_t operationWord, std::uint32_t filterMode,
+                        std::uint8_t alpha);
+
 // Returns the kernel's result, or 1 when there is nothing to be done.
 int SelectFillKernel(const BitmapLockInfo& dst, std::uint32_t color, std::uint32_t operationWord);
 

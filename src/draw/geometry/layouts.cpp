@@ -49,6 +49,15 @@ Tiles::Tiles(const RECT& source, const RECT& destination, float tileScale)
       height(ExtentOf(source.top, source.bottom)),
       src(source) {}
 
+PieceRow Tiles::RowAt(std::int64_t top) const {
+    const bool isCut = top + height > dst.bottom;
+    const LONG srcBottom = isCut ? SourceEdge(src.top, dst.bottom - top) : src.bottom;
+    return {ToRect(dst.left, top, dst.right, isCut ? dst.bottom : top + height),
+            width,
+            {src.left, src.top, src.right, srcBottom},
+            SourceEdge(src.left, WidthOf(dst) % width)};
+}
+
 bool Tiles::NextRow() {
     const std::int64_t rest = WidthOf(dst) % width;
     if (rest == 0) return false;

@@ -27,6 +27,20 @@ constexpr std::int64_t StepBefore(std::int64_t place, std::int64_t start, std::i
     return place <= start ? start : place - (place - start) % step;
 }
 
+// Copies of one piece side by side, from the left edge of dst on. The right edge cuts the last one, and its source.
+struct PieceRow {
+    RECT dst;
+    std::int64_t width;  // of each
+    RECT src;
+    LONG lastSrcRight;  // of what is left of the last one when it is cut
+
+    // Where the cut one begins, or dst ends.
+    LONG WholeRight() const { return static_cast<LONG>(dst.right - WidthOf(dst) % width); }
+    Piece Last() const {
+        return {{WholeRight(), dst.top, dst.right, dst.bottom}, {src.left, src.top, lastSrcRight, src.bottom}};
+    }
+};
+
 // The tiles of one row after another. Lengths are logical pixels, but for src.
 class Tiles {
 public:
@@ -34,7 +48,7 @@ public:
 
     bool IsEmpty() const { return width < 1 || height < 1; }
 
-    // Calls draw(piece) for the tiles that touch the visible part of the destination.
+    // Calls draw(row) for the rows of tiles that touch the visible part of the destination.
     template <class Draw>
     void ForEach(const RECT& visible, Draw draw) const {
         const std::int64_t firstTop = StepBefore(visible.top, dst.top, height);
@@ -43,23 +57,13 @@ public:
         for (std::int64_t top = dst.top; top < firstTop && row.NextRow(); top += height) {
         }
         for (std::int64_t top = firstTop; top < visible.bottom; top += height) {
-            row.DrawRow(top, visible.left, visible.right, draw);
+            draw(row.RowAt(top));
             row.NextRow();
         }
     }
 
 private:
-    // The tiles of the row at top between two edges.
-    template <class Draw>
-    void DrawRow(std::int64_t top, LONG from, LONG to, Draw draw) const {
-        const std::int64_t bottom = std::min<std::int64_t>(top + height, dst.bottom);
-        const LONG srcBottom = top + height > dst.bottom ? SourceEdge(src.top, dst.bottom - top) : src.bottom;
-        for (std::int64_t left = StepBefore(from, dst.left, width); left < to; left += width) {
-            const bool cut = left + width > dst.right;
-            draw(Piece{ToRect(left, top, cut ? dst.right : left + width, bottom),
-                       {src.left, src.top, cut ? SourceEdge(src.left, dst.right - left) : src.right, srcBottom}});
-        }
-    }
+    PieceRow RowAt(std::int64_t top) const;
 
     // Goes on to the next row. A cut is never undone, on purpose: when the right edge has cut the last tile of a row,
     // all tiles of the next one are as narrow and show as little of the source. False: nothing was cut, and all
@@ -83,18 +87,14 @@ public:
 
     RECT Extent() const { return Union(band, body); }
 
-    // Calls draw(piece) for both pieces of every column that touches the visible part.
+    // Calls draw(row) for the band and for the body.
     template <class Draw>
-    void ForEach(const RECT& visible, Draw draw) const {
+    void ForEach(Draw draw) const {
         const std::int64_t step = WidthOf(src);
-        for (std::int64_t left = StepBefore(visible.left, dst.left, step); left < visible.right; left += step) {
-            const std::int64_t right = std::min<std::int64_t>(left + step, dst.right);
-            const std::int64_t srcRight = src.left + (right - left);
-            draw(Piece{ToRect(left, band.top, right, band.bottom),
-                       ToRect(src.left, src.top, srcRight, src.top + bandHeight)});
-            draw(Piece{ToRect(left, body.top, right, body.bottom),
-                       ToRect(src.left, std::int64_t{src.bottom} - margins.bottom, srcRight, src.bottom)});
-        }
+        const LONG lastSrcRight = static_cast<LONG>(src.left + WidthOf(dst) % step);
+        draw(PieceRow{band, step, ToRect(src.left, src.top, src.right, src.top + bandHeight), lastSrcRight});
+        draw(PieceRow{body, step, ToRect(src.left, std::int64_t{src.bottom} - margins.bottom, src.right, src.bottom),
+                      lastSrcRight});
     }
 
 private:
