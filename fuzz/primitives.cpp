@@ -100,23 +100,20 @@ std::int64_t Product(std::int64_t rows, std::int64_t bytes) {
     return bytes > 0 && rows > most / bytes ? most + 1 : rows * bytes;
 }
 
-// The memory that a record describes; first: where the image's bits lie in it. Its last row ends with its pixels, which
-// all primitives but copies and blurs take for four bytes each.
+// The memory that a record describes; first: where the image's bits lie in it. It ends with the last row's pixels. Rows
+// without gaps lie as far apart as they are long, or as the step says.
 struct Described {
     std::int64_t bytes, first;
 };
 
 Described Describe(const BITMAP& record, Primitive primitive) {
     if (record.bmHeight < 1 || record.bmWidth < 1) return {0, 0};
-    const std::int64_t bits = record.bmBitsPixel == 0 ? 32 : record.bmBitsPixel;
-    const std::int64_t ownRow = record.bmWidth * bits / 8, step = std::abs(std::int64_t{record.bmWidthBytes});
-    const bool ownPixels = primitive <= Primitive::copyArea || primitive == Primitive::blur;
-    const std::int64_t row = ownPixels ? ownRow : std::max(ownRow, std::int64_t{4} * record.bmWidth);
+    const std::int64_t row = record.bmWidth * std::int64_t{record.bmBitsPixel == 0 ? 32 : record.bmBitsPixel} / 8;
     const bool isPacked = primitive == Primitive::bitOr || primitive == Primitive::bitAnd;
-    const std::int64_t distance = isPacked ? std::max(step, ownRow) : step;
+    const std::int64_t step = record.bmWidthBytes,
+                       distance = isPacked && step >= 0 ? std::max(step, row) : std::abs(step);
     const std::int64_t toLastRow = Product(record.bmHeight - std::int64_t{1}, distance);
-    return {toLastRow + (distance == 0 ? ownRow : std::min(distance, row)),
-            !isPacked && record.bmWidthBytes < 0 ? toLastRow : 0};
+    return {toLastRow + row, step < 0 ? toLastRow : 0};
 }
 
 // Mirrors of rows that overlap give undefined pixels.
@@ -139,11 +136,14 @@ void RunInput(Input& input) {
         dst.bmHeight = src.bmHeight;
     }
 
+    const bool isTrusted = dst.bmWidth == 0 && dst.bmHeight == 0;
+    if (isTrusted) dst = src;
     const Described from = Describe(src, job.primitive), to = Describe(dst, job.primitive);
+    if (isTrusted) dst.bmWidth = dst.bmHeight = 0;
     if (from.bytes > most || to.bytes > most || IsUndefined(job, dst)) return;
-    // Rows that are all the same take time, and blurs memory for as many bytes as a row of any length says.
+    // Rows that overlap take time, and blurs memory for as many bytes as a row of any length says.
     const auto takesLong = [&](const BITMAP& record) {
-        return (record.bmWidthBytes == 0 && record.bmHeight > 1000) ||
+        return std::int64_t{record.bmWidth} * record.bmHeight > 1 << 22 ||
                (job.primitive == Primitive::blur && record.bmWidthBytes > most);
     };
     if (takesLong(src) || takesLong(dst)) return;

@@ -916,14 +916,16 @@ ZORVIC_API HRGN ZORVIC_CALL CreateTextureRgn(HGTEXTURE texture, const RECT* area
 
 /* -------------------------------------------------------------------------------------- pixels in the host's memory
  * These work on memory that the host describes: bmWidth, bmHeight, bmWidthBytes (negative where rows run upwards),
- * bmBitsPixel and bmBits. What is called four bytes per pixel has them whatever bmBitsPixel says. A record describes as
- * many rows as it has, each as long as its row step (the depth, where the step is 0), and the last of them as long as
- * its pixels; a call that would touch a byte outside does nothing. Where nothing else is said, the result is 1, or 0 for
- * a NULL record, NULL bits, a width or height below 1, and for what would reach outside. */
+ * bmBitsPixel and bmBits. What is called four bytes per pixel has them whatever bmBitsPixel says. The memory of a record
+ * reaches from its first pixel to the last pixel of its last row, and all bytes between belong to it; a record of more
+ * bytes than any memory has describes none. Pixels that do not lie in that memory as a whole are left out, in both images
+ * of a call, and the rest is done. Where nothing else is said, the result is 1, or 0 for a NULL record, NULL bits, and
+ * a width or height below 1 of what is worked on. */
 
 /** Copies pixels. Nothing is stretched, and destinations of other depths get the source's bytes.
  *  \param src   24 or 32 bits per pixel
- *  \param dst   large enough for what is copied; may overlap src if the row steps are the same
+ *  \param dst   may overlap src if the row steps are the same. A record with width and height 0 tells of bits, row step
+ *               and depth only: its memory must be large enough
  *  \param area  which rows of both images, top to bottom, and how many pixels of each, right - left; they start
  *               bmBitsPixel * left / 4 bytes into the row, which is column 2 * left: pass left 0 where the place
  *               matters. NULL: as many as src has, from the first pixels on
@@ -947,7 +949,7 @@ ZORVIC_API int ZORVIC_CALL MirrorEx(const BITMAP* src, BITMAP* dst, int axis);
 
 /** Draws a premultiplied image of four bytes per pixel over the first pixels of another one: every byte becomes
  *  s + d * (255 - alpha of s) / 255, rounded to nearest, at most 255. Drawing on canvases truncates instead.
- *  \param dst  at least as large as src */
+ *  \param dst  gets no more than it has room for; with width and height 0 it is trusted to be as large as src */
 ZORVIC_API int ZORVIC_CALL AlphaBlend_IPP(const BITMAP* src, BITMAP* dst);
 
 /** Fills an image of four bytes per pixel.
@@ -955,8 +957,8 @@ ZORVIC_API int ZORVIC_CALL AlphaBlend_IPP(const BITMAP* src, BITMAP* dst);
  *  \param keepAlpha  not 0: every pixel keeps its alpha */
 ZORVIC_API int ZORVIC_CALL SetColor_IPP(BITMAP* image, DWORD color, int keepAlpha);
 
-/** Each pixel of dst becomes the pixel of src OR the value. Four bytes per pixel, and rows without gaps: the row steps
- *  are ignored.
+/** Each pixel of dst becomes the pixel of src OR the value. Four bytes per pixel, and rows without gaps, from bmBits on:
+ *  row steps only tell how much memory there is, and count as the length of a row where they are shorter.
  *  \param src,dst  may be the same image
  *  \return 1 for two records of one size, whatever could be written; else 0 */
 ZORVIC_API int ZORVIC_CALL ARGBOrBitmap_IPP(const BITMAP* src, BITMAP* dst, DWORD value);

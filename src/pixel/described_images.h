@@ -1,8 +1,7 @@
 // The primitives on images that a caller describes in a BITMAP record: its size, row step, depth and bits.
 //
-// The record describes a block of memory: its rows, each as long as the step says, or the depth where the step is 0. The
-// last one ends with its pixels: the record may be that of an area whose rows are parts of longer ones. A job that would
-// touch a byte outside one of its blocks does nothing and fails.
+// A job is cut to the memory of its images, see pixel/record_rows.h: what lies outside is left out, and the rest is done.
+// Null bits and sizes below 1 make it fail.
 #pragma once
 
 #include "zorvic/types.h"
@@ -20,12 +19,12 @@ bool CopyImage(const BITMAP& src, const BITMAP& dst, const RECT* area);
 bool MirrorImage(const BITMAP& image, int axis);
 bool MirrorImage(const BITMAP& src, const BITMAP& dst, int axis);  // fails for images of two sizes
 
-// Premultiplied source-over, rounded to nearest, in the source's size.
+// Premultiplied source-over, rounded to nearest, in the source's size. A target of 0 x 0 is as large as that.
 bool BlendImage(const BITMAP& src, const BITMAP& dst);
 
 bool SetImageColor(const BITMAP& image, DWORD color, bool keepsAlpha);
 
-// Rows are packed: steps count for nothing. False for images of two sizes only.
+// Rows are packed: steps only tell where memory ends. False for images of two sizes only.
 bool OrImage(const BITMAP& src, const BITMAP& dst, DWORD value);
 bool AndImage(const BITMAP& src, const BITMAP& dst, DWORD value);
 

@@ -66,8 +66,7 @@ void MovePixels(const BitmapLockInfo& dst, const BitmapLockInfo& src, Transform 
     } else if (moves.transposes) {
         TransposePixels(PixelsOf(src, moves.mirrorsX), target, size);
     } else {
-        constexpr int leftToRight = 1;
-        MirrorPixels(PixelsOf(src, false), target, size, leftToRight);
+        ReversePixels(PixelsOf(src, false), target, size);
     }
 }
 

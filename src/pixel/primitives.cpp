@@ -13,12 +13,6 @@ namespace {
 
 constinit std::atomic<Level> levelInUse{Level::unresolved};
 
-template <class... Pointer>
-Status CheckRegion(SIZE size, Pointer... pointers) {
-    if ((!pointers || ...)) return Status::nullPointer;
-    return size.cx < 1 || size.cy < 1 ? Status::badSize : Status::success;
-}
-
 template <class Primitive, class... Args>
 Status RunOnPair(Primitive PrimitiveSet::*primitive, SourcePixels src, TargetPixels dst, SIZE size, Args... args) {
     const Status status = CheckRegion(size, src.first, dst.first);
@@ -38,20 +32,14 @@ const std::byte* RowOf(SourcePixels pixels, int y) {
 }
 std::byte* RowOf(TargetPixels pixels, int y) { return static_cast<std::byte*>(pixels.first) + y * pixels.step; }
 
-void MirrorInPlace(TargetPixels image, SIZE size, bool mirrorsRows, bool mirrorsPixels) {
-    const PrimitiveSet& primitives = Primitives();
-    const auto reverse = [&](int y) {
-        const int half = size.cx / 2;
-        std::byte* const row = RowOf(image, y);
-        primitives.exchangeReversed(row, row + std::ptrdiff_t{4} * (size.cx - half), half);
-    };
-    if (!mirrorsRows) {
-        for (int y = 0; y < size.cy; ++y) reverse(y);
-        return;
-    }
-    const auto exchange = mirrorsPixels ? primitives.exchangeReversed : primitives.exchange;
-    for (int y = 0; y < size.cy / 2; ++y) exchange(RowOf(image, y), RowOf(image, size.cy - 1 - y), size.cx);
-    if (mirrorsPixels && size.cy % 2 != 0) reverse(size.cy / 2);
+// Calls exchange(row of a, row of b, pixels).
+template <class Exchange>
+Status ExchangeRows(Exchange PrimitiveSet::*exchange, TargetPixels a, TargetPixels b, SIZE size) {
+    const Status status = CheckRegion(size, a.first, b.first);
+    if (status != Status::success) return status;
+    const auto run = Primitives().*exchange;
+    for (int y = 0; y < size.cy; ++y) run(RowOf(a, y), RowOf(b, y), size.cx);
+    return status;
 }
 
 }  // namespace
@@ -78,6 +66,12 @@ Status InitPrimitives() {
     return Status::success;
 }
 
+bool CopiesLastRowFirst(SourcePixels src, TargetPixels dst, std::int64_t rowBytes) {
+    const bool moves = src.step == dst.step && std::abs(std::int64_t{dst.step}) >= rowBytes;
+    const bool ahead = reinterpret_cast<std::uintptr_t>(dst.first) > reinterpret_cast<std::uintptr_t>(src.first);
+    return moves && ahead == (dst.step > 0);
+}
+
 Status CopyPixels(SourcePixels src, TargetPixels dst, SIZE size, int bytesPerPixel) {
     const Status status = CheckRegion(size, src.first, dst.first);
     if (status != Status::success) return status;
@@ -89,10 +83,7 @@ Status CopyPixels(SourcePixels src, TargetPixels dst, SIZE size, int bytesPerPix
         copy(src.first, dst.first, static_cast<std::size_t>(allBytes));
         return status;
     }
-    // Rows that would be overwritten before their turn go first.
-    const bool moves = src.step == dst.step && static_cast<std::size_t>(std::abs(dst.step)) >= rowBytes;
-    const bool ahead = reinterpret_cast<std::uintptr_t>(dst.first) > reinterpret_cast<std::uintptr_t>(src.first);
-    const bool lastFirst = moves && ahead == (dst.step > 0);
+    const bool lastFirst = CopiesLastRowFirst(src, dst, packed);
     for (int i = 0; i < size.cy; ++i) {
         const int y = lastFirst ? size.cy - 1 - i : i;
         copy(RowOf(src, y), RowOf(dst, y), rowBytes);
@@ -136,27 +127,29 @@ Status TransposePixels(SourcePixels src, TargetPixels dst, SIZE size) {
     return RunOnPair(&PrimitiveSet::transpose, src, dst, size);
 }
 
-Status MirrorPixels(SourcePixels src, TargetPixels dst, SIZE size, int axis) {
-    Status status = CheckRegion(size, src.first, dst.first);
-    if (status == Status::success && (axis < 0 || axis > 2)) status = Status::badAxis;
+Status ReversePixels(SourcePixels src, TargetPixels dst, SIZE size) {
+    const Status status = CheckRegion(size, src.first, dst.first);
     if (status != Status::success) return status;
-
-    const bool mirrorsRows = axis != 1, mirrorsPixels = axis != 0;
-    if (src.first == dst.first && src.step == dst.step) {
-        MirrorInPlace(dst, size, mirrorsRows, mirrorsPixels);
-        return status;
-    }
     const PrimitiveSet& primitives = Primitives();
+    const bool inPlace = src.first == dst.first && src.step == dst.step;
+    const int half = size.cx / 2;
     for (int y = 0; y < size.cy; ++y) {
-        const std::byte* const from = RowOf(src, y);
-        std::byte* const to = RowOf(dst, mirrorsRows ? size.cy - 1 - y : y);
-        if (mirrorsPixels) {
-            primitives.copyReversed(from, to, size.cx);
+        std::byte* const row = RowOf(dst, y);
+        if (inPlace) {
+            primitives.exchangeReversed(row, row + std::ptrdiff_t{4} * (size.cx - half), half);
         } else {
-            primitives.copy(from, to, static_cast<std::size_t>(size.cx) * 4);
+            primitives.copyReversed(RowOf(src, y), row, size.cx);
         }
     }
     return status;
+}
+
+Status ExchangePixels(TargetPixels a, TargetPixels b, SIZE size) {
+    return ExchangeRows(&PrimitiveSet::exchange, a, b, size);
+}
+
+Status ExchangeReversedPixels(TargetPixels a, TargetPixels b, SIZE size) {
+    return ExchangeRows(&PrimitiveSet::exchangeReversed, a, b, size);
 }
 
 }  // namespace zorvic

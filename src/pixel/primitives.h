@@ -1,4 +1,4 @@
-// Pixel primitives on images given by address, row step and size: copy, fill, compositions, bitwise or and and, mirror.
+// Pixel primitives on images given by address, row step and size: copy, fill, compositions, bitwise or and and, mirrors.
 // Each runs in the widest form that the processor has; all forms give the same bytes. The box filter has its own header.
 #pragma once
 
@@ -9,7 +9,7 @@
 
 namespace zorvic {
 
-enum class Status : int { success = 0, badSize = -6, nullPointer = -8, badAxis = -22 };
+enum class Status : int { success = 0, badSize = -6, nullPointer = -8 };
 
 // The first pixel of the first row, and the bytes from one row to the next, which may be negative. Any alignment.
 struct SourcePixels {
@@ -25,10 +25,19 @@ struct TargetPixels {
 // Resolves the level now rather than on first use. Status::success once the primitives can be called.
 Status InitPrimitives();
 
+template <class... Pointer>
+Status CheckRegion(SIZE size, Pointer... pointers) {
+    if ((!pointers || ...)) return Status::nullPointer;
+    return size.cx < 1 || size.cy < 1 ? Status::badSize : Status::success;
+}
+
 // Where nothing else is said, pixels have four bytes; a null pointer or a size below 1 changes nothing. Sources and
 // targets may overlap: compositions and bitwise operations then go pixel by pixel in reading order, a copy between
 // equal steps moves.
 Status CopyPixels(SourcePixels src, TargetPixels dst, SIZE size, int bytesPerPixel);
+// Whether it starts with the last row, because the first ones would overwrite rows before their turn.
+bool CopiesLastRowFirst(SourcePixels src, TargetPixels dst, std::int64_t rowBytes);
+
 Status SetPixels(TargetPixels dst, SIZE size, std::uint32_t color);
 Status SetPixelColors(TargetPixels dst, SIZE size, std::uint32_t color);  // each pixel keeps its alpha
 
@@ -47,8 +56,12 @@ Status AndPixels(SourcePixels src, TargetPixels dst, SIZE size, std::uint32_t va
 // Columns become rows: the source's pixel (x, y) goes to (y, x). The images do not overlap.
 Status TransposePixels(SourcePixels src, TargetPixels dst, SIZE size);
 
-// Axis 0 reverses the order of rows, 1 that of the pixels in every row, 2 both. The same image as source and target is
-// mirrored in place; other overlaps give undefined pixels.
-Status MirrorPixels(SourcePixels src, TargetPixels dst, SIZE size, int axis);
+// Every row from its last pixel to its first. The same image as source and target is reversed in place; other overlaps
+// give undefined pixels.
+Status ReversePixels(SourcePixels src, TargetPixels dst, SIZE size);
+
+// Two images that do not overlap change places: row by row, or with the pixels of every row reversed as well.
+Status ExchangePixels(TargetPixels a, TargetPixels b, SIZE size);
+Status ExchangeReversedPixels(TargetPixels a, TargetPixels b, SIZE size);
 
 }  // namespace zorvic

@@ -149,28 +149,33 @@ std::byte* Arguments::PlaceImage(std::int64_t bytes) {
     return image;
 }
 
-// The memory is as large as the record says. Steps shorter than a row and sizes below 1 are the call's affair.
+// The memory ends with the last pixel that the record tells of. Sizes below 1 are the call's affair.
 void Arguments::Fill(BITMAP& image) {
     if (name == "out") return FillWithRubbish(image);
     if (images != 0 && OneIn(6)) {
         image = hostImage;
+        if (OneIn(2)) image.bmWidth = image.bmHeight = 0;  // tells of bits and step only
         return;
     }
     const auto extent = [&] { return Rarely(24) ? Absurd() : Between(1, 40); };
     const int bitsPixel = OneIn(6) ? 24 : OneIn(12) ? random.Below(40) : 32;
     image = {0, extent(), extent(), 0, 1, static_cast<WORD>(bitsPixel), nullptr};
-    const std::int64_t rowBytes = RowBytes(image);
+    const std::int64_t rowBytes = RowBytes(image), capacity = Fence::capacity;
     if (!OneIn(6)) image.bmWidthBytes = static_cast<LONG>((OneIn(8) ? 0 : rowBytes & 0xFFFFF) + Between(0, 9));
-    // Two calls take rows without gaps, whatever the step is; for the others negative ones run upwards.
+    // Two calls take rows without gaps, whatever the step is; for all, negative steps run upwards.
     const bool isPacked = callee.starts_with("ARGB");
-    const std::int64_t step = image.bmWidthBytes, taken = step == 0 || isPacked ? std::max(rowBytes, step) : step;
-    if (taken > 0) image.bmHeight = std::min(image.bmHeight, static_cast<LONG>(std::int64_t{Fence::capacity} / taken));
-    const std::int64_t rows = taken > 0 ? std::max(image.bmHeight, 0L) : 0;
-    std::byte* const first = PlaceImage(taken * rows);
+    const std::int64_t step = image.bmWidthBytes, distance = isPacked ? std::max(rowBytes, step) : step;
+    const std::int64_t most =
+        rowBytes > capacity ? -1 : 1 + (capacity - rowBytes) / std::max<std::int64_t>(distance, 1);
+    image.bmHeight = static_cast<LONG>(std::min<std::int64_t>(image.bmHeight, most));
+    if (image.bmWidth == 0 && image.bmHeight == 0) image.bmHeight = -1;  // the source is not there yet
+    const bool hasPixels = image.bmWidth > 0 && image.bmHeight > 0;
+    const std::int64_t toLastRow = hasPixels ? distance * (image.bmHeight - 1) : 0;
+    std::byte* const first = PlaceImage(hasPixels ? toLastRow + rowBytes : 0);
     image.bmBits = Rarely(32) ? nullptr : first;
-    if (OneIn(3) && rows > 0) {
+    if (OneIn(3) && hasPixels) {
         image.bmWidthBytes = -image.bmWidthBytes;
-        if (!isPacked && image.bmBits) image.bmBits = first + step * (rows - 1);
+        if (image.bmBits) image.bmBits = first + step * (image.bmHeight - 1);
     }
     hostImage = image;
 }
@@ -180,14 +185,16 @@ void Arguments::Fill(BitmapLockInfo& image) {
     const int bitsPixel = OneIn(3) ? 8 : OneIn(3) ? 24 : 32;
     image = {0, Between(-1, 40), Between(-1, 40), 0, 1, static_cast<WORD>(bitsPixel), nullptr, 0, 0, nullptr};
     image.bmWidthBytes = static_cast<LONG>(std::max<std::int64_t>(RowBytes(image), 0)) + Between(0, 9);
-    image.bmBits = PlaceImage(std::int64_t{image.bmWidthBytes} * std::max(image.bmHeight, 0L));
+    const std::int64_t toLastRow = std::int64_t{image.bmWidthBytes} * (image.bmHeight - 1);
+    image.bmBits = PlaceImage(image.bmHeight > 0 ? toLastRow + std::max<std::int64_t>(RowBytes(image), 0) : 0);
     if (bitsPixel != 8) return;
     image.colorCount = static_cast<WORD>(Between(0, 256));
     image.palette = OneIn(8) ? nullptr : reinterpret_cast<DWORD*>(PlaceImage(image.colorCount * std::int64_t{4}));
 }
 
 void* Arguments::BlurredBits() {
-    const std::int64_t bytes = height > 0 && stride > 0 ? std::int64_t{height} * stride : 0;
+    const std::int64_t rowBytes = std::clamp<std::int64_t>(std::int64_t{width} * 4, 0, stride);
+    const std::int64_t bytes = height > 0 && stride > 0 ? (height - std::int64_t{1}) * stride + rowBytes : 0;
     return Rarely(24) || bytes > std::int64_t{Fence::capacity} ? nullptr : PlaceImage(bytes);
 }
 

@@ -73,6 +73,22 @@ TEST(BorrowedPixels, OutliveTheirCanvas) {
     }
 }
 
+// Calls that take pixels for four bytes meet the last row of narrower ones, which has no gap behind it.
+TEST(MemoryBitmaps, EndWithTheLastPixelOfTheirRecords) {
+    const Allocations fences(true);
+    for (const auto& [bits, left] : {std::pair{24, 100L}, {8, 300L}}) {
+        const OwnedBitmap bitmap = MakeBitmap(400, 2, bits), other = MakeBitmap(400, 2, bits);
+        const RECT area{left, 0, 400, 2};
+        BITMAP image, second;
+        ASSERT_TRUE(LockBitmapBits(bitmap.get(), &image, &area) && LockBitmapBits(other.get(), &second, &area));
+        EXPECT_TRUE(SetColor_IPP(&image, 0x11223344, 0) && SetColor_IPP(&image, 0x11223344, 1));
+        EXPECT_TRUE(AlphaBlend_IPP(&image, &second) && AlphaBlend_IPP(&second, &second));
+        EXPECT_TRUE(ARGBOrBitmap_IPP(&image, &second, 1) && ARGBAndBitmap_IPP(&image, &second, ~0UL));
+        EXPECT_TRUE(Mirror(&image, 0) && Mirror(&image, 1) && Mirror(&image, 2));
+        EXPECT_TRUE(MirrorEx(&image, &second, 0) && MirrorEx(&image, &second, 1) && MirrorEx(&image, &second, 2));
+    }
+}
+
 // Kernels look up any index in any palette, and take pixels of depths that they do not know as words.
 TEST(MemoryBitmaps, HoldWhatKernelsReadOfThem) {
     const Allocations fences(true);

@@ -11,7 +11,7 @@ BITMAP RecordOf(Words& pixels, int width) {
     return {0, width, height, 4 * width, 1, 32, pixels.data()};
 }
 
-const RECT lastRow{0, 1, 2, 2};
+const RECT lastRow{0, 1, 2, 2}, outside{1, -1, 3, 2};
 
 // clang-format off
 // Run on a source of 3 x 2 pixels, 80402010 and others, and a destination that is all white.
@@ -23,6 +23,9 @@ const struct {
 } cases[] = {
     {"copy", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, nullptr); }, 1, {0x80402010, 0, 3, 4, 5, 6}},
     {"copy a row", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, &lastRow); }, 1, {~0UL, ~0UL, ~0UL, 4, 5, ~0UL}},
+    {"copy what lies inside", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, &outside); }, 1, {0x80402010, ~0UL, 3, 4, ~0UL, 6}},
+    {"copy to bits and step", [](BITMAP* s, BITMAP* d) -> int { return d->bmWidth = d->bmHeight = 0, CopyBitmap_IPP(s, d, nullptr); }, 1, {0x80402010, 0, 3, 4, 5, 6}},
+    {"copy to a smaller image", [](BITMAP* s, BITMAP* d) -> int { return d->bmWidth = 2, d->bmHeight = 1, CopyBitmap_IPP(s, d, nullptr); }, 1, {0x80402010, 0, ~0UL, ~0UL, ~0UL, ~0UL}},
     {"blur two columns", [](BITMAP* s, BITMAP* d) -> int {
          return CopyBitmap_IPP(s, d, nullptr) && BlurBitmapData(2, 2, 12, d->bmBits, 32, 3);
      }, 1, {0x27130A07, 0x1F100806, 3, 0x1F100806, 0x190C0606, 6}},
@@ -46,7 +49,7 @@ const struct {
          s->bmBitsPixel = d->bmBitsPixel = 24;
          s->bmWidthBytes = d->bmWidthBytes = 9;
          return ARGBAndBitmap_IPP(s, d, 0);
-     }, 1, Words(6, ~0UL)},
+     }, 1, {0, 0, 0, 0, ~0UL, ~0UL}},
     {"and in place", [](BITMAP*, BITMAP* d) { return ARGBAndBitmap_IPP(d, d, 0xFF0000FF); }, 1, Words(6, 0xFF0000FF)},
     {"and of two sizes", [](BITMAP* s, BITMAP* d) { return --s->bmWidth, ARGBAndBitmap_IPP(s, d, 0); }, 0, Words(6, ~0UL)},
 };

@@ -113,19 +113,30 @@ TEST_P(Primitives, TakeImagesThatOverlap) {
         }
 }
 
-TEST_P(Primitives, Mirror) {
+TEST_P(Primitives, ReverseAndExchange) {
     Random random(3);
     for (const int width : Widths())
-        for (int i = 0; i < 6; ++i) {
-            const int axis = i / 2, right = width - 1, bottom = random.Below(5);
-            const Image src = RandomImage(random, width, bottom + 1);
-            const bool inPlace = i % 2 == 0;
-            const Image dst = inPlace ? src : RandomImage(random, width, bottom + 1);
-            Image wanted = dst;
-            wanted.Fill([&](int x, int y) { return src.At(axis == 0 ? x : right - x, axis == 1 ? y : bottom - y); });
-            MirrorPixels(TargetOf(inPlace ? dst : src), TargetOf(dst), SizeOf(src), axis);
-            ASSERT_TRUE(SameBytes(dst, wanted)) << "axis " << axis << (inPlace ? ", in place" : "");
-        }
+        for (const bool reverses : {false, true})
+            for (const bool upwards : {false, true}) {
+                const Image a = RandomImage(random, width, 1 + random.Below(5));
+                const Image b = RandomImage(random, width, a.Info().bmHeight), beforeA = a, beforeB = b;
+                const auto run = reverses ? ExchangeReversedPixels : ExchangePixels;
+                EXPECT_EQ(run(TargetOf(a, upwards), TargetOf(b), SizeOf(a)), Status::success);
+                Image wantedA = a, wantedB = b;
+                const auto from = [=](const Image& image) {
+                    return [=, &image](int x, int y) {
+                        return image.At(reverses ? width - 1 - x : x, upwards ? image.Info().bmHeight - 1 - y : y);
+                    };
+                };
+                wantedA.Fill(from(beforeB));
+                wantedB.Fill(from(beforeA));
+                ASSERT_TRUE(SameBytes(a, wantedA) && SameBytes(b, wantedB)) << reverses;
+
+                ReversePixels(TargetOf(reverses ? a : b), TargetOf(b), SizeOf(b));
+                const Image source = reverses ? a : wantedB;
+                wantedB.Fill([&](int x, int y) { return source.At(width - 1 - x, y); });
+                ASSERT_TRUE(SameBytes(b, wantedB)) << (reverses ? "" : "in place");
+            }
 }
 
 TEST(PrimitiveCalls, RefuseNullPointersSizesAndAxes) {
@@ -136,7 +147,9 @@ TEST(PrimitiveCalls, RefuseNullPointersSizesAndAxes) {
             EXPECT_EQ(c.run(pixels, pixels, size, 77), Status::badSize) << c.name;
         EXPECT_EQ(c.run(pixels, nothing, {5, 4}, 77), Status::nullPointer) << c.name;
     }
-    for (const int axis : {-1, 3}) EXPECT_EQ(MirrorPixels(pixels, pixels, {5, 4}, axis), Status::badAxis);
+    for (const auto run : {ExchangePixels, ExchangeReversedPixels})
+        EXPECT_EQ(run(pixels, pixels, {5, 0}), Status::badSize);
+    EXPECT_EQ(ReversePixels(pixels, nothing, {5, 4}), Status::nullPointer);
     EXPECT_TRUE(SameBytes(image, before));
 }
 
