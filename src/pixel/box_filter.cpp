@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <cstring>
 
-#include "pixel/box_rows.h"
+#include "pixel/box_window.h"
+#include "pixel/forms/wide_sums.h"
+#include "pixel/large_box.h"
 #include "pixel/primitive_set.h"
 
 namespace zorvic {
@@ -19,55 +21,44 @@ constexpr int largestBox = 1 << 28;
 constexpr std::int64_t slackColumns = 8;  // vectors read on behind the last box
 constexpr std::uintptr_t alignment = 64;  // bytes
 
+// What the sums of a row need with their repetitions, four for each column.
+std::int64_t PaddedColumns(const Window& across) {
+    return across.repeatedBefore + std::int64_t{across.n} + across.repeatedAfter + slackColumns;
+}
+
+// columns, in both: the sums of a row's columns, with room for their repetitions before and behind.
 struct SmallBox {
     using Sum = std::uint32_t;
-    using Divider = SumDivider;
 
     static void Slide(Sum* columns, const std::uint32_t* entering, const std::uint32_t* leaving, int n) {
         Primitives().slideColumns(columns, entering, leaving, n);
     }
-    static void Means(const Sum* columns, int box, const Sum* start, Divider area, std::uint32_t* out, int n) {
-        Primitives().boxMeans(columns, box, start, area, out, n);
+    static void Means(Sum* columns, const Window& across, Sum area, std::uint32_t* out) {
+        Sum* const padded = columns - std::ptrdiff_t{4} * across.repeatedBefore;
+        Sum* const last = columns + std::ptrdiff_t{4} * (across.n - 1);
+        for (Sum* column = padded; column < columns; column += 4) std::copy_n(columns, 4, column);
+        for (int i = 1; i <= across.repeatedAfter; ++i) std::copy_n(last, 4, last + std::ptrdiff_t{4} * i);
+        Sum start[4];
+        for (int c = 0; c < 4; ++c)
+            start[c] = area / 2 + static_cast<Sum>(across.before - across.repeatedBefore) * columns[c] +
+                       static_cast<Sum>(across.after - across.repeatedAfter) * last[c];
+        const int box = across.repeatedBefore + 1 + across.repeatedAfter;
+        Primitives().boxMeans(padded, box, start, SumDivider(area), out, across.n);
     }
 };
 
 struct LargeBox {
     using Sum = std::uint64_t;
-    using Divider = std::uint64_t;
 
     static void Slide(Sum* columns, const std::uint32_t* entering, const std::uint32_t* leaving, int n) {
-        SlideColumns<PlainSums<Sum, Divider>>(columns, entering, leaving, n);
+        for (int x = 0; x < n; ++x, columns += 4) {
+            const WideSums change = WideSums::FromPixel(entering + x) - WideSums::FromPixel(leaving + x);
+            (WideSums::Load(columns) + change).Store(columns);
+        }
     }
-    static void Means(const Sum* columns, int box, const Sum* start, Divider area, std::uint32_t* out, int n) {
-        BoxMeans<PlainSums<Sum, Divider>>(columns, box, start, area, out, n);
+    static void Means(Sum* columns, const Window& across, Sum area, std::uint32_t* out) {
+        MeansOfLargeBoxes<WideSums>(columns, across, area, out);
     }
-};
-
-// The pixels around a place in a row or column of n: before of them, the place itself and after. Outside, the ends are
-// repeated; more than n repetitions on a side show nothing new.
-struct Window {
-    Window(int box, int extent)
-        : before(box / 2),
-          after(box - 1 - box / 2),
-          n(extent),
-          repeatedBefore(std::min(before, n)),
-          repeatedAfter(std::min(after, n)) {}
-
-    int Clamped(std::int64_t i) const { return static_cast<int>(std::clamp<std::int64_t>(i, 0, n - 1)); }
-
-    // What leaves and what enters when the window moves from place i to the next.
-    int Leaving(int i) const { return Clamped(std::int64_t{i} - before); }
-    int Entering(int i) const { return Clamped(std::int64_t{i} + after + 1); }
-
-    // Calls add(index, times) for all that the window around place 0 holds.
-    template <class Add>
-    void ForFirst(const Add& add) const {
-        add(0, before + 1);
-        for (int i = 1; i < std::min(after + 1, n); ++i) add(i, 1);
-        if (after >= n) add(n - 1, after - n + 1);
-    }
-
-    int before, after, n, repeatedBefore, repeatedAfter;
 };
 
 // Rows as 32-bit pixels: those of four bytes are there, others are widened and narrowed.
@@ -92,24 +83,17 @@ struct Rows {
     int width, channels;
 };
 
-// What the sums of a row need with their repetitions, four for each column.
-std::int64_t PaddedColumns(const Window& across) {
-    return across.repeatedBefore + std::int64_t{across.n} + across.repeatedAfter + slackColumns;
-}
-
 template <class Box>
 void Filter(const Rows& rows, int height, int box, void* buffer) {
     using Sum = typename Box::Sum;
     const Window across(box, rows.width), down(box, height);
     const int n = across.n;
     const Sum area = static_cast<Sum>(box) * static_cast<Sum>(box);
-    const typename Box::Divider byArea(area);
 
     const auto address = (reinterpret_cast<std::uintptr_t>(buffer) + alignment - 1) / alignment * alignment;
     auto* const padded = reinterpret_cast<Sum*>(address);
     const auto sums = static_cast<std::ptrdiff_t>(4 * PaddedColumns(across));
     Sum* const columns = padded + std::ptrdiff_t{4} * across.repeatedBefore;
-    Sum* const lastColumn = columns + std::ptrdiff_t{4} * (n - 1);
     auto* const zeros = reinterpret_cast<std::uint32_t*>(padded + sums);
     std::uint32_t* const scratch[] = {zeros + n, zeros + std::ptrdiff_t{2} * n, zeros + std::ptrdiff_t{3} * n};
     std::fill_n(padded, sums, Sum{0});
@@ -122,14 +106,8 @@ void Filter(const Rows& rows, int height, int box, void* buffer) {
         for (std::ptrdiff_t i = 0; i < std::ptrdiff_t{4} * n; ++i) columns[i] += static_cast<Sum>(times) * bytes[i];
     });
     for (int y = 0; y < height; ++y) {
-        for (Sum* column = padded; column < columns; column += 4) std::copy_n(columns, 4, column);
-        for (int i = 1; i <= across.repeatedAfter; ++i) std::copy_n(lastColumn, 4, lastColumn + std::ptrdiff_t{4} * i);
-        Sum start[4];
-        for (int c = 0; c < 4; ++c)
-            start[c] = area / 2 + static_cast<Sum>(across.before - across.repeatedBefore) * columns[c] +
-                       static_cast<Sum>(across.after - across.repeatedAfter) * lastColumn[c];
         std::uint32_t* const out = rows.Target(y, scratch[2]);
-        Box::Means(padded, across.repeatedBefore + 1 + across.repeatedAfter, start, byArea, out, n);
+        Box::Means(columns, across, area, out);
         rows.Write(y, out);
         Box::Slide(columns, rows.Read(down.Entering(y), scratch[0]), rows.Read(down.Leaving(y), scratch[1]), n);
     }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "pixel/described_images.h"
+#include "pixel/large_box.h"
 #include "support/image.h"
 #include "support/levels.h"
 #include "support/slow_pixels.h"
@@ -74,6 +75,53 @@ TEST_P(BlurImages, LargestSumsFit) {
     const Image edges = RowOf({0xFF000064, 0xFFFFFF00, 0xFF0000C8});
     EXPECT_TRUE(Blur(edges, INT32_MAX));
     EXPECT_EQ(edges.Pixels(), std::vector<std::uint32_t>(3, 0xFF000096));
+}
+
+// Sums in plain numbers that know how often they were divided.
+struct Counted {
+    explicit(false) Counted(std::uint64_t number = 0) : value(number) {}
+    friend Counted operator+(Counted a, Counted b) { return a.value + b.value; }
+    friend Counted operator-(Counted a, Counted b) { return a.value - b.value; }
+    friend Counted operator*(Counted a, Counted b) { return a.value * b.value; }
+    friend Counted operator/(Counted a, Counted b) { return ++divisions, a.value / b.value; }
+
+    static inline int divisions = 0;
+    std::uint64_t value;
+};
+
+struct CountedSums {
+    using Number = Counted;
+    static CountedSums Load(const Counted* in) { return {in[0].value}; }  // one channel shows it
+    static CountedSums Repeat(Counted number) { return {number.value}; }
+    void StorePixel(std::uint32_t* out) const { *out = static_cast<std::uint32_t>(sum); }
+    friend CountedSums operator+(CountedSums a, CountedSums b) { return {a.sum + b.sum}; }
+    friend CountedSums operator-(CountedSums a, CountedSums b) { return {a.sum - b.sum}; }
+    friend CountedSums operator&(CountedSums a, CountedSums b) { return {a.sum & b.sum}; }
+    friend CountedSums Signs(CountedSums s) { return {0 - (s.sum >> 63)}; }
+
+    std::uint64_t sum;
+};
+
+// Black and white columns at random: means go up and down.
+TEST(LargeBoxes, AreDividedOncePerRow) {
+    constexpr int n = 9000;
+    Random random(4);
+    std::vector<Counted> columns(std::size_t{4} * n);
+    std::vector<std::uint32_t> means(n);
+    for (const int box : {2897, 3000, 30000}) {
+        for (Counted& sum : columns) sum = random.Below(2) ? 0 : std::uint64_t{255} * static_cast<unsigned>(box);
+        const auto area = static_cast<std::uint64_t>(box) * static_cast<std::uint64_t>(box);
+        const Window window(box, n);
+        Counted::divisions = 0;
+        MeansOfLargeBoxes<CountedSums>(columns.data(), window, area, means.data());
+        EXPECT_LE(Counted::divisions, 2 * 4) << "the mean of the first box, and half the area, of each channel";
+        for (int x = 0; x < n; x += 250) {
+            std::uint64_t sum = area / 2;
+            for (int i = x - box / 2; i < x - box / 2 + box; ++i)
+                sum += columns[static_cast<std::size_t>(4 * std::clamp(i, 0, n - 1))].value;
+            ASSERT_EQ(means[static_cast<std::size_t>(x)], sum / area) << "box " << box << ", column " << x;
+        }
+    }
 }
 
 TEST(BlurImage, LeavesOtherDepthsAlone) {
