@@ -4,6 +4,7 @@
 #include "compose.h"
 
 #include "pixels.h"
+#include "trace.h"
 
 namespace zorvic::vek {
 
@@ -109,7 +110,7 @@ void DrawFrom(const Drawing& drawing, const Shape& shape, int opacity, bool scal
         drawing.image.SetPattern(PatternOf(drawing.scratch, place, CAIRO_EXTEND_NONE));
         cairo_set_operator(context, CAIRO_OPERATOR_SOURCE);
     }
-    shape.Draw(context, OriginOf(drawing.image));
+    Trace(shape, context, OriginOf(drawing.image));
     drawing.image.End();
 }
 

@@ -9,7 +9,7 @@ namespace zorvic::vek {
 
 namespace {
 
-constexpr int mostDashes = 1 << 20;
+constexpr int mostDashes = 1 << 17;
 
 Point Clamp(Point p, const Box& box) {
     return {std::clamp(p.x, box.left, box.right), std::clamp(p.y, box.top, box.bottom)};
@@ -70,14 +70,12 @@ void ForEachEdge(std::vector<Point>& points, bool closed, const Box& box, Edge e
     }
 }
 
-// Draws the on parts of a dashed line.
+// Draws the on parts of a dashed line, each longer by reach at both of its ends.
 class Dasher {
 public:
-    Dasher(Path& path, const Dashes& lengths) : out(path), dashes(lengths) {
+    Dasher(Path& path, const Dashes& lengths, double added) : out(path), dashes(lengths), reach(added) {
         for (const double length : dashes) ends.push_back(period += length);
     }
-
-    void StartFigure() { penDown = false; }
 
     // The part of the edge from a to b; the pen stays down when it was on at the end of the edge.
     bool Draw(Point a, Point b, double before, Span span) {
@@ -85,28 +83,39 @@ public:
         const double end = span.last * length;
         double at = span.first * length;
         const double phase = std::fmod(before + at, period);
-        const auto current = std::upper_bound(ends.begin(), ends.end() - 1, phase);
+        // A dash that ends here is over, but the first one of a figure may have no length.
+        const auto current = before + at == 0 ? ends.begin() : std::upper_bound(ends.begin(), ends.end() - 1, phase);
         auto dash = static_cast<std::size_t>(current - ends.begin());
 
-        bool down = penDown && span.first == 0;
-        penDown = false;
+        if (span.first > 0) LiftPen();
+        if (length > 0) way = (b - a) * (1 / length);
         const auto place = [&](double distance) { return length > 0 ? Mix(a, b, distance / length) : a; };
         for (double left = *current - phase;; left = dashes[dash]) {
             if (++drawn > mostDashes) return false;
             const bool on = dash % 2 == 0;
             const double stop = std::min(at + left, end);
             if (on) {
-                if (!down) out.MoveTo(place(at));
-                out.LineTo(place(stop));
+                if (penDown) {
+                    out.LineTo(tip);
+                } else {
+                    out.MoveTo(place(at) - way * reach);
+                }
+                tip = place(stop);
+                penDown = true;
             }
-            down = false;
             if (at + left > end) {
-                penDown = on && span.last == 1;
+                if (span.last < 1) LiftPen();
                 return true;
             }
+            LiftPen();
             at = stop;
             dash = (dash + 1) % dashes.size();
         }
+    }
+
+    void LiftPen() {
+        if (penDown) out.LineTo(tip + way * reach);
+        penDown = false;
     }
 
 private:
@@ -114,15 +123,18 @@ private:
     const Dashes& dashes;
     std::vector<double> ends;  // of the dashes in the period
     double period = 0;
+    double reach;
     int drawn = 0;
     bool penDown = false;
+    Point tip;  // where the pen is, not drawn yet
+    Point way;  // unit vector along the edge
 };
 
 }  // namespace
 
-Path FlattenForStroke(const Path& path, Point offset, double width) {
+Path FlattenForStroke(const Path& path, Point offset, const Box& shown, double width) {
     Path out;
-    Flatten(path, {offset, BoxOf(unbounded), width}, [&](const std::vector<Point>& points, bool closed) {
+    Flatten(path, {offset, BoxOf(unbounded), width, shown}, [&](const std::vector<Point>& points, bool closed) {
         out.MoveTo(points.front());
         for (std::size_t i = 1; i < points.size(); ++i) out.LineTo(points[i]);
         if (closed) out.Close();
@@ -141,9 +153,9 @@ Path CutForFill(const Path& path, Point offset, const Box& box) {
     return out;
 }
 
-Path CutForStroke(const Path& path, Point offset, const Box& box, double width) {
+Path CutForStroke(const Path& path, Point offset, const Box& box, const Box& shown, double width) {
     Path out;
-    Flatten(path, {offset, box, width}, [&](std::vector<Point>& points, bool closed) {
+    Flatten(path, {offset, box, width, shown}, [&](std::vector<Point>& points, bool closed) {
         bool penDown = false;
         bool whole = true;
         ForEachEdge(points, closed, box, [&](Point a, Point b, double) {
@@ -161,16 +173,17 @@ Path CutForStroke(const Path& path, Point offset, const Box& box, double width) 
     return out;
 }
 
-std::optional<Path> CutIntoDashes(const Path& path, Point offset, const Box& box, double width, const Dashes& dashes) {
+std::optional<Path> CutIntoDashes(const Path& path, Point offset, const Box& box, double width, const Dashes& dashes,
+                                  double reach) {
     Path out;
-    Dasher dasher(out, dashes);
+    Dasher dasher(out, dashes, reach);
     bool done = true;
     Flatten(path, {offset, box, width}, [&](std::vector<Point>& points, bool closed) {
-        dasher.StartFigure();
         ForEachEdge(points, closed, box, [&](Point a, Point b, double before) {
             const Span span = Inside(a, b, box);
             if (done && span.first <= span.last) done = dasher.Draw(a, b, before, span);
         });
+        dasher.LiftPen();
     });
     if (!done) return std::nullopt;
     return out;

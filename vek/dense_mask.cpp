@@ -13,9 +13,8 @@ namespace zorvic::vek {
 namespace {
 
 constexpr int samples = 4;  // per pixel and axis
-// Rows times edges that Cairo draws in some tenths of a second.
-constexpr double mostEdgeRows = 2e6;
-constexpr int mostCounters = 1 << 22;
+// Of a band: 2 MiB, so that a column of counters stays in the second cache and within reach of the page tables.
+constexpr int mostCounters = 1 << 19;
 
 // Some rows of the picture, as counters per sample.
 class Band {
@@ -44,10 +43,12 @@ public:
         for (int y = 0; y < area.Height() * samples; ++y) {
             std::uint8_t* out = &mask.bytes[static_cast<std::size_t>(area.top - mask.area.top + y / samples) *
                                             static_cast<std::size_t>(mask.stride)];
+            const int* counter = &counters[Index(0, y)];
             int winding = 0;
-            for (int x = 0; x < area.Width() * samples; ++x) {
-                winding += counters[Index(x, y)];
-                if (winding != 0 || covered) ++out[x / samples];
+            for (int x = 0; x < area.Width(); ++x) {
+                int hits = 0;
+                for (int i = 0; i < samples; ++i) hits += (winding += *counter++) != 0 ? 1 : 0;
+                out[x] = static_cast<std::uint8_t>(out[x] + (covered ? samples : hits));
             }
         }
     }
@@ -55,7 +56,9 @@ public:
 private:
     // The first sample at or after a position, which is between 0 and a number of pixels.
     static int Sample(double position, int pixels) {
-        return static_cast<int>(std::ceil(std::clamp(position, 0.0, static_cast<double>(pixels)) * samples - 0.5));
+        const double sample = std::clamp(position, 0.0, static_cast<double>(pixels)) * samples - 0.5;
+        const int whole = static_cast<int>(sample);  // std::ceil() is a call
+        return whole + (whole < sample ? 1 : 0);
     }
     std::size_t Index(int x, int y) const {
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
@@ -73,6 +76,8 @@ public:
     StrokePieces(Band& target, const StrokeForm& stroke) : band(target), form(stroke), half(stroke.width / 2) {}
 
     void AddFigure(const std::vector<Point>& points, bool closed) {
+        const auto [highest, lowest] = std::ranges::minmax(points, {}, &Point::y);
+        if (!IsNear(highest, lowest, half * std::max(form.miterLimit, 2.0))) return;
         std::vector<Point> ways;  // unit vectors along the segments that have a length
         std::vector<Point> ends;
         for (std::size_t i = 0; i < points.size(); ++i) {
@@ -83,13 +88,21 @@ public:
             AddSegment(points[i], next, ways.back());
             if (ways.size() > 1) AddJoin(points[i], ways[ways.size() - 2], ways.back());
         }
-        if (ways.empty()) return;
+        if (ways.empty()) {
+            if (form.cap == Cap::round) AddDisk(points.front());
+            return;
+        }
         if (closed) return AddJoin(points.front(), ways.back(), ways.front());
         AddCap(points.front(), ways.front() * -1);
         AddCap(points.back(), ways.back());
     }
 
 private:
+    // Whether the rows of the band come within a distance of those between two points.
+    bool IsNear(Point a, Point b, double distance) const {
+        return std::max(a.y, b.y) + distance >= band.Area().top && std::min(a.y, b.y) - distance <= band.Area().bottom;
+    }
+
     void AddConvex(std::span<const Point> corners) {
         double twiceArea = 0;
         for (std::size_t i = 2; i < corners.size(); ++i) {
@@ -122,26 +135,41 @@ private:
     Point Side(Point way) const { return Point{-way.y, way.x} * half; }
 
     void AddSegment(Point a, Point b, Point way) {
+        if (!IsNear(a, b, half)) return;
         const Point side = Side(way);
         AddConvex(std::array{a + side, b + side, b - side, a - side});
     }
 
-    void AddDisk(Point center) {
-        // A tenth of a pixel from the circle.
-        const int corners = static_cast<int>(std::clamp(8 * std::sqrt(half), 8.0, 100.0));
-        std::vector<Point> circle;
-        for (int i = 0; i < corners; ++i) {
-            const double angle = 2 * std::numbers::pi * i / corners;
-            circle.push_back(center + Point{std::cos(angle), std::sin(angle)} * half);
+    // Corners of a whole circle: a tenth of a pixel off.
+    double CircleCorners() const { return std::clamp(8 * std::sqrt(half), 8.0, 100.0); }
+
+    void AddArc(std::vector<Point>& polygon, Point center, double from, double sweep) const {
+        const int lines = static_cast<int>(std::ceil(CircleCorners() * std::abs(sweep) / (2 * std::numbers::pi)));
+        for (int i = 0; i <= lines; ++i) {
+            const double angle = from + sweep * i / lines;
+            polygon.push_back(center + Point{std::cos(angle), std::sin(angle)} * half);
         }
+    }
+
+    void AddDisk(Point center) {
+        if (!IsNear(center, center, half)) return;
+        std::vector<Point> circle;
+        AddArc(circle, center, 0, 2 * std::numbers::pi);
         AddConvex(circle);
     }
 
     void AddJoin(Point at, Point in, Point out) {
-        if (form.join == Join::round) return AddDisk(at);
+        if (!IsNear(at, at, half * std::max(form.miterLimit, 1.0))) return;
         const double cross = in.x * out.y - in.y * out.x, dot = in.x * out.x + in.y * out.y;
         const double outer = cross > 0 ? -1 : 1;
         const Point a = Side(in) * outer, b = Side(out) * outer;
+        // A turn that the corners of a circle pass over has a straight edge.
+        const double corners = CircleCorners() / (2 * std::numbers::pi);
+        if (form.join == Join::round && 2 * (1 - dot) * corners * corners > 1) {
+            std::vector<Point> sector{at};
+            AddArc(sector, at, std::atan2(a.y, a.x), -outer * std::atan2(std::abs(cross), dot));
+            return AddConvex(sector);
+        }
         if (form.join == Join::miter && 2 <= form.miterLimit * form.miterLimit * (1 + dot)) {
             AddConvex(std::array{at, at + a, at + (a + b) * (1 / (1 + dot)), at + b});
         } else {
@@ -167,35 +195,7 @@ void AddEdges(Band& band, const Path& path, const Flatness& flatness, const Stro
     });
 }
 
-// Rows of the area that the edges of the outline cross, all edges together.
-struct EdgeCounter {
-    double top, bottom, added;
-    Point start, current;
-    double rows = 0;
-
-    void MoveTo(Point p) { start = current = p; }
-    void LineTo(Point p) {
-        const double low = std::max(std::min(current.y, p.y) - added, top);
-        const double high = std::min(std::max(current.y, p.y) + added, bottom);
-        rows += std::max(high - low, 0.0);
-        current = p;
-    }
-    void CurveTo(Point c1, Point c2, Point p) {
-        LineTo(c1);
-        LineTo(c2);
-        LineTo(p);
-    }
-    void Close() { LineTo(start); }
-};
-
 }  // namespace
-
-bool IsDense(const Path& path, Point offset, const Rect& area, const StrokeForm& stroke) {
-    if (static_cast<double>(path.PointCount()) * area.Height() < mostEdgeRows) return false;
-    EdgeCounter counter{area.top - offset.y, area.bottom - offset.y, stroke.width, {}, {}};
-    path.Visit(counter);
-    return counter.rows * (stroke.width > 0 ? 2 : 1) > mostEdgeRows;
-}
 
 Mask MakeDenseMask(const Path& path, Point offset, const Rect& area, const StrokeForm& stroke, bool smooth) {
     Mask mask{area, (area.Width() + 3) / 4 * 4, {}};

@@ -5,8 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "path.h"
-#include "style.h"
+#include "edge_rows.h"
 
 namespace zorvic::vek {
 
@@ -16,16 +15,6 @@ struct Mask {
     int stride = 0;  // bytes, a multiple of 4
     std::vector<std::uint8_t> bytes;
 };
-
-struct StrokeForm {
-    double width = 0;  // 0: the path is filled
-    double miterLimit = 0;
-    Cap cap = Cap::butt;
-    Join join = Join::miter;
-};
-
-// Whether drawing the path takes more than a moment in Cairo.
-bool IsDense(const Path& path, Point offset, const Rect& area, const StrokeForm& stroke);
 
 // smooth is false for all or nothing.
 Mask MakeDenseMask(const Path& path, Point offset, const Rect& area, const StrokeForm& stroke, bool smooth);

@@ -16,7 +16,8 @@ struct Point {
     friend bool operator==(Point a, Point b) { return a.x == b.x && a.y == b.y; }
 };
 
-inline double Distance(Point a, Point b) { return std::hypot(b.x - a.x, b.y - a.y); }
+// No coordinates are so large that their squares overflow, as std::hypot() is slow to prevent.
+inline double Distance(Point a, Point b) { return std::sqrt((b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y)); }
 inline Point Middle(Point a, Point b) { return (a + b) * 0.5; }
 inline Point Mix(Point a, Point b, double t) { return a + (b - a) * t; }
 
@@ -58,6 +59,7 @@ struct Box {
     bool Contains(const Box& b) const {
         return b.left >= left && b.right <= right && b.top >= top && b.bottom <= bottom;
     }
+    bool Meets(const Box& b) const { return left <= b.right && right >= b.left && top <= b.bottom && bottom >= b.top; }
     Box Moved(Point by) const { return {left + by.x, top + by.y, right + by.x, bottom + by.y}; }
     Box Grown(double by) const { return {left - by, top - by, right + by, bottom + by}; }
 };

@@ -1,14 +1,13 @@
 // Gradients as Cairo patterns.
 #include "gradient.h"
 
+#include <span>
+
 namespace zorvic::vek {
 
 void Gradient::AddStop(double offset, std::uint32_t color) {
-    const Stop stop{std::clamp(offset, 0.0, 1.0), color};
     const std::lock_guard lock(mutex);
-    const auto after = std::upper_bound(stops.begin(), stops.end(), stop,
-                                        [](const Stop& a, const Stop& b) { return a.offset < b.offset; });
-    stops.insert(after, stop);
+    stops.Add(offset, color);
     pattern.reset();
 }
 
@@ -20,9 +19,8 @@ CairoPattern Gradient::Pattern(Point offset, int opacity) {
     }
     // A line without length shows its last colour, circles that are one show nothing.
     const bool point = first == last;
-    std::vector<Stop> shown = stops;
-    if (point) shown.clear();
-    if (point && !radial && !stops.empty()) shown.push_back(stops.back());
+    std::span<const Stop> shown = stops.Shown();
+    if (point) shown = shown.last(radial || shown.empty() ? 0 : 1);
 
     const Point a = first.center + offset, b = last.center + offset;
     pattern.reset(radial ? cairo_pattern_create_radial(a.x, a.y, first.radius, b.x, b.y, last.radius)

@@ -3,9 +3,9 @@
 
 #include <cstdint>
 #include <mutex>
-#include <vector>
 
 #include "cairo_handles.h"
+#include "color_stops.h"
 #include "geometry.h"
 
 namespace zorvic::vek {
@@ -28,18 +28,13 @@ public:
     CairoPattern Pattern(Point offset, int opacity);
 
 private:
-    struct Stop {
-        double offset;
-        std::uint32_t color;
-    };
-
     const bool radial;
     const Circle first;
     const Circle last;
 
-    std::mutex mutex;         // of all below
-    std::vector<Stop> stops;  // by offset
-    CairoPattern pattern;     // made with these:
+    std::mutex mutex;  // of all below
+    ColorStops stops;
+    CairoPattern pattern;  // made with these:
     Point madeOffset;
     int madeOpacity = 0;
 };

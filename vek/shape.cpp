@@ -1,7 +1,8 @@
-// Choosing between the path as it is and a cut one, and handing the result to Cairo.
+// Choosing between the path as it is, a cut one and a mask. Cairo itself is left to trace.cpp.
 #include "shape.h"
 
-#include "cairo_handles.h"
+#include <numbers>
+
 #include "cut_path.h"
 
 namespace zorvic::vek {
@@ -17,27 +18,9 @@ constexpr double farthestMiter = 1 << 16;
 // Cairo leaves a hole where a curve turns more tightly than half the stroke is wide. Wider strokes follow lines.
 constexpr double widestOnCurves = 1.5;
 
-// How far a flattened curve may be from the true one, in pixels; Cairo's own 0.1 takes a percent off small circles.
-constexpr double fine = 0.025;
-
-constexpr double mostCairoDashes = 1 << 17;
-
-// With anti-aliasing off, a pixel centre on an edge belongs to what is on its left or above. Cairo decides the other
-// way round, so the outline is moved by its smallest step.
-constexpr double tie = 1.0 / 256;
-
-// Hands a path to a Cairo context.
-struct Tracer {
-    cairo_t* context;
-    Point offset;
-    void MoveTo(Point p) { cairo_move_to(context, p.x + offset.x, p.y + offset.y); }
-    void LineTo(Point p) { cairo_line_to(context, p.x + offset.x, p.y + offset.y); }
-    void CurveTo(Point c1, Point c2, Point p) {
-        cairo_curve_to(context, c1.x + offset.x, c1.y + offset.y, c2.x + offset.x, c2.y + offset.y, p.x + offset.x,
-                       p.y + offset.y);
-    }
-    void Close() { cairo_close_path(context); }
-};
+// What Cairo draws in a quarter of a second, and a mask of a large picture in about the same time.
+constexpr double mostCairoRows = 4e5;
+constexpr double mostDashRows = 4e6;
 
 // Length of the lines through all end and control points: at least that of the outline.
 struct Ruler {
@@ -63,6 +46,16 @@ double ControlLength(const Path& path) {
     return ruler.length;
 }
 
+// The mean coverage of a dashed stroke: its caps reach into the gaps, round ones by the mean width of a half disk.
+double MeanOpacity(const Dashes& dashes, double period, const StrokeForm& stroke) {
+    const double caps = stroke.cap == Cap::butt    ? 0
+                        : stroke.cap == Cap::round ? stroke.width * std::numbers::pi / 4
+                                                   : stroke.width;
+    double off = 0;
+    for (std::size_t i = 1; i < dashes.size(); i += 2) off += std::max(dashes[i] - caps, 0.0);
+    return 1 - off / period;
+}
+
 const Box cairoRange{-farthest, -farthest, farthest, farthest};
 
 }  // namespace
@@ -74,7 +67,36 @@ void Shape::Replace(Path&& other) {
 }
 
 void Shape::MakeMaskIfDense() {
-    if (IsDense(Outline(), offset, extent, stroke)) mask = MakeDenseMask(Outline(), offset, extent, stroke, smooth);
+    if (EdgeRows(Outline(), offset, extent, stroke) > mostCairoRows)
+        mask = MakeDenseMask(Outline(), offset, extent, stroke, smooth);
+}
+
+void Shape::SetDashes(Dashes&& lengths, const Path& original, const Box& seen) {
+    double period = 0, on = 0;
+    for (std::size_t i = 0; i < lengths.size(); ++i) {
+        period += lengths[i];
+        if (i % 2 == 0) on += lengths[i];
+    }
+    const double perPeriod = static_cast<double>(lengths.size()) / 2;
+    const double count = ControlLength(original) / period * perPeriod;
+    const bool few = DashRows(count, on / perPeriod, extent, stroke) < mostCairoRows &&
+                     EdgeRows(original, offset, extent, stroke) < mostCairoRows;
+    if (!isFar && few) {
+        dashes = std::move(lengths);
+        return;
+    }
+    // As lines with butt caps, so that square caps have a direction at dashes without a length too.
+    StrokeForm pieceForm = stroke;
+    if (stroke.cap == Cap::square) pieceForm.cap = Cap::butt;
+    const double reach = stroke.cap == Cap::square ? stroke.width / 2 : 0;
+    auto pieces = CutIntoDashes(original, offset, seen, stroke.width, lengths, reach);
+    if (pieces && EdgeRows(*pieces, {}, extent, pieceForm) < mostDashRows) {
+        Replace(std::move(*pieces));
+        stroke = pieceForm;
+        isFar = false;
+    } else {
+        opacity = MeanOpacity(lengths, period, stroke);
+    }
 }
 
 Shape Shape::Filled(const Path& path, Point offset, bool smooth, const Rect& clip) {
@@ -102,64 +124,17 @@ Shape Shape::Stroked(const Path& path, Point offset, const Style& style, const R
     shape.extent = Intersect(PixelsOf(box.Grown(reach)), clip);
     if (shape.extent.Empty()) return shape;
 
-    const bool isFar = !cairoRange.Contains(box);
+    shape.isFar = !cairoRange.Contains(box);
     Dashes dashes = DashesOf(style);
-    bool cutIntoDashes = false;
-    if (!dashes.empty()) {
-        double period = 0, on = 0;
-        for (std::size_t i = 0; i < dashes.size(); ++i) {
-            period += dashes[i];
-            if (i % 2 == 0) on += dashes[i];
-        }
-        const double count = ControlLength(path) / period * static_cast<double>(dashes.size());
-        if (!isFar && count < mostCairoDashes && !IsDense(path, offset, shape.extent, stroke)) {
-            shape.dashes = std::move(dashes);
-        } else if (auto pieces = CutIntoDashes(path, offset, seen, stroke.width, dashes)) {
-            shape.Replace(std::move(*pieces));
-            cutIntoDashes = true;
-        } else {
-            shape.opacity = on / period;
-        }
-    }
-    if (isFar && !cutIntoDashes) {
-        shape.Replace(CutForStroke(path, offset, seen, stroke.width));
+    if (!dashes.empty()) shape.SetDashes(std::move(dashes), path, seen);
+    const Box shown = shape.dashes.empty() ? BoxOf(clip).Grown(2) : BoxOf(unbounded);
+    if (shape.isFar) {
+        shape.Replace(CutForStroke(path, offset, seen, shown, stroke.width));
     } else if (shape.Outline().HasCurves() && stroke.width > widestOnCurves) {
-        shape.Replace(FlattenForStroke(path, offset, stroke.width));
+        shape.Replace(FlattenForStroke(path, offset, shown, stroke.width));
     }
     if (shape.dashes.empty()) shape.MakeMaskIfDense();
     return shape;
-}
-
-void Shape::SetStroke(cairo_t* context) const {
-    constexpr cairo_line_cap_t caps[] = {CAIRO_LINE_CAP_BUTT, CAIRO_LINE_CAP_ROUND, CAIRO_LINE_CAP_SQUARE};
-    constexpr cairo_line_join_t joins[] = {CAIRO_LINE_JOIN_MITER, CAIRO_LINE_JOIN_ROUND, CAIRO_LINE_JOIN_BEVEL};
-    cairo_set_line_width(context, stroke.width);
-    cairo_set_miter_limit(context, stroke.miterLimit);
-    cairo_set_line_cap(context, caps[static_cast<int>(stroke.cap)]);
-    cairo_set_line_join(context, joins[static_cast<int>(stroke.join)]);
-    cairo_set_dash(context, dashes.data(), static_cast<int>(dashes.size()), 0);
-}
-
-void Shape::Draw(cairo_t* context, Point origin) const {
-    if (mask) {
-        // Cairo only reads from a mask.
-        const CairoSurface surface(cairo_image_surface_create_for_data(const_cast<unsigned char*>(mask->bytes.data()),
-                                                                       CAIRO_FORMAT_A8, mask->area.Width(),
-                                                                       mask->area.Height(), mask->stride));
-        cairo_mask_surface(context, surface.get(), mask->area.left - origin.x, mask->area.top - origin.y);
-        return;
-    }
-    const double nudge = smooth ? 0 : tie;
-    Tracer tracer{context, offset - origin + Point{nudge, nudge}};
-    cairo_set_antialias(context, smooth ? CAIRO_ANTIALIAS_GOOD : CAIRO_ANTIALIAS_NONE);
-    cairo_set_tolerance(context, fine);
-    if (stroke.width > 0) SetStroke(context);
-    Outline().Visit(tracer);
-    if (stroke.width > 0) {
-        cairo_stroke(context);
-    } else {
-        cairo_fill(context);
-    }
 }
 
 }  // namespace zorvic::vek

@@ -1,8 +1,7 @@
 // A path made ready for Cairo: moved to the pixels of its target, with the numbers of the stroke, and cut to what can be
-// seen where its own numbers would be too large for Cairo's rasteriser.
+// seen where its own numbers would be too large for Cairo's rasteriser. Where its edges cross too many rows for Cairo it
+// becomes a mask.
 #pragma once
-
-#include <cairo.h>
 
 #include <optional>
 
@@ -23,15 +22,18 @@ public:
     // 0..1: dashes too fine to be seen one by one are drawn as a solid stroke of this opacity.
     double Opacity() const { return opacity; }
 
-    // Fills or strokes with the source and operator that are set. The origin is the target's first pixel.
-    void Draw(cairo_t* context, Point origin) const;
+    const Mask* CoverageMask() const { return mask ? &*mask : nullptr; }  // drawn instead of the outline
+    const Path& Outline() const { return path ? *path : own; }
+    Point Offset() const { return offset; }
+    bool Smooth() const { return smooth; }
+    const StrokeForm& Stroke() const { return stroke; }
+    const Dashes& DashLengths() const { return dashes; }
 
 private:
     Shape(const Path& original, Point by, bool antialias) : path(&original), offset(by), smooth(antialias) {}
-    const Path& Outline() const { return path ? *path : own; }
     void Replace(Path&& other);
     void MakeMaskIfDense();
-    void SetStroke(cairo_t* context) const;
+    void SetDashes(Dashes&& lengths, const Path& original, const Box& seen);
 
     const Path* path;  // none: the shape has a path of its own, which needs no offset
     Path own;
@@ -41,7 +43,8 @@ private:
     Dashes dashes;
     Rect extent;
     double opacity = 1;
-    std::optional<Mask> mask;  // drawn instead of the path
+    std::optional<Mask> mask;
+    bool isFar = false;
 };
 
 }  // namespace zorvic::vek
