@@ -86,7 +86,7 @@ const DashedPen pens[] = {
 
 TEST(GdiCalls, AreFlushedWhereTheLibraryTouchesThePixelsNext) {
     const OwnedCanvas canvas = MakeCanvas(12, 8, Plain{});
-    const GdiBitmap dib = GdiBitmap::Dib(12, 8), compatible = GdiBitmap::Compatible(12, 8);
+    const GdiBitmap dib = GdiBitmap::Dib(12, 9), compatible = GdiBitmap::Compatible(12, 8);
     const OwnedCanvas onDib(CreateCanvasFromDC(dib.Dc())), onOther(CreateCanvasFromDC(compatible.Dc()));
     const RECT rect{2, 1, 9, 6};
     const GdiCalls hooks;
@@ -95,6 +95,11 @@ TEST(GdiCalls, AreFlushedWhereTheLibraryTouchesThePixelsNext) {
     expect(GeoRectFocusEx(canvas.get(), &rect, 0xFFFFFFFF), "Rectangle GdiFlush ");
     expect(BlendCanvas(canvas.get(), &rect, onDib.get(), &rect, 255), "StretchBlt GdiFlush ");
     expect(FillSolidRect(onOther.get(), 0x80FFFFFF, &rect), "BitBlt GdiFlush ");
+    // A DIB section's own pixels need no copy, not even from its middle row on, which does not tell the order of rows.
+    for (const LONG top : {0, 3, 4, 5}) {
+        const RECT part{2, top, 9, top + 3};
+        expect(FillSolidRect(onDib.get(), 0x80FFFFFF, &part), "");
+    }
 }
 
 TEST(GdiCalls, CutFarRectanglesAndKeepTheDashesInSight) {
