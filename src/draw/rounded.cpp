@@ -25,21 +25,18 @@ using OwnedVekBitmap = std::unique_ptr<VekBitmap__, VekBitmapDeleter>;
 // pixels at a side, the backend gives the whole row other coverages.
 struct Frame {
     LONG width, height, top, bottom;
-
-    std::unique_ptr<Canvas> MakeCanvas() const {
-        return Canvas::Create(width, bottom - top, StoreKind::memory, nullptr);
-    }
 };
 
-std::unique_ptr<Canvas> Stretch(const Frame& frame, const Texture& texture, DWORD filterMode) {
-    auto picture = frame.MakeCanvas();
+// Makes the pixels of the stretched texture. (Not a bitmap: the resource manager would be told of its end in the middle of
+// the draw.)
+bool Stretch(MemoryPixelStore& picture, const Frame& frame, const Texture& texture, DWORD filterMode) {
     const SurfaceLock source(texture);
-    if (!picture || !source) return nullptr;
-    const SurfaceLock pixels(*picture->Surface());
-    if (!pixels) return nullptr;
+    BITMAP description{0, frame.width, frame.bottom - frame.top, 0, 1, 32, nullptr};
+    BitmapLockInfo pixels;
+    if (!source || !picture.Create(&description, 0) || !picture.LockEx(&pixels, nullptr)) return false;
     const Placement placement{0, frame.top, frame.width, frame.height};
-    SelectPlacedKernel(*pixels, placement, *source, ZORVIC_OP_SOURCE_OVER, filterMode, 255);
-    return picture;
+    SelectSamplingKernel(pixels, placement, *source, ZORVIC_OP_SOURCE_OVER, filterMode, 255);
+    return true;
 }
 
 // The shape in coordinates of the whole extent, so that a part has the whole one's pixels.
@@ -58,11 +55,11 @@ void DrawShape(VekCanvas canvas, const Frame& frame, const TextureDrawParams& pa
     if (frame.top > 0) vekCanvasTranslate(canvas, 0, top);
 }
 
-bool DrawInto(VekCanvas shape, const Canvas& picture) {
-    const SurfaceLock pixels(*picture.Surface());
-    if (!pixels) return false;
+bool DrawInto(VekCanvas shape, const MemoryPixelStore& picture) {
+    BitmapLockInfo pixels;
+    if (!picture.LockEx(&pixels, nullptr)) return false;
     const OwnedVekBitmap bitmap(
-        vekBitmapCreateFromData(pixels->bmBits, pixels->bmWidth, pixels->bmHeight, pixels->bmWidthBytes));
+        vekBitmapCreateFromData(pixels.bmBits, pixels.bmWidth, pixels.bmHeight, pixels.bmWidthBytes));
     vekCanvasSetBlendMode(shape, VEK_BLEND_SOURCE_IN);
     const bool drawn = vekCanvasDrawBitmap(shape, bitmap.get(), 0, 0);
     vekCanvasSetBlendMode(shape, VEK_BLEND_SOURCE_OVER);
@@ -91,7 +88,9 @@ int DrawRoundedTexture(Canvas& canvas, const RECT& dst, const Texture& texture, 
         frame.bottom = shown.bottom - dst.top;
     }
 
-    const auto picture = Stretch(frame, texture, params.filterMode), cut = picture ? frame.MakeCanvas() : nullptr;
+    MemoryPixelStore picture;
+    if (!Stretch(picture, frame, texture, params.filterMode)) return 1;
+    const auto cut = Canvas::Create(frame.width, frame.bottom - frame.top, StoreKind::memory, nullptr);
     if (!cut) return 1;
     cut->SetFilter(ZORVIC_OP_SOURCE_OVER);
     {
@@ -99,7 +98,7 @@ int DrawRoundedTexture(Canvas& canvas, const RECT& dst, const Texture& texture, 
         if (!shape) return 1;
         vekCanvasSetColor(shape.Get(), 0xFFFFFFFF);
         DrawShape(shape.Get(), frame, params, dst);
-        if (!DrawInto(shape.Get(), *picture)) return 1;  // of the shape alone nothing is to be seen
+        if (!DrawInto(shape.Get(), picture)) return 1;  // of the shape alone nothing is to be seen
     }
     const RECT whole{0, 0, frame.width, frame.bottom - frame.top};
     return DrawBitmapRect(canvas, shown, *cut->Surface(), whole, params.filterMode, params.alpha);
