@@ -11,8 +11,8 @@
  *   low 24 bits.
  * Coordinates.  Rectangles on a canvas are logical pixels, right and bottom exclusive; the surface pixel is
  *   logical + viewport origin - window origin. The clip stays where it was set, in surface pixels.
- * Results.  1 is done, 0 is refused. Drawing returns 1 once its handles are valid, even if nothing was visible.
- *   There are no error codes and no messages.
+ * Results.  1 is done, 0 is refused. Drawing returns 1 once its handles are valid, even if nothing was visible; textures
+ *   without slices and tiles differ, see DrawTexture. There are no error codes and no messages.
  * Threads.  Any thread may use the library; each object is used by one thread at a time. The two process-wide settings
  *   (SetStretchKernelMode, RegisterD2DResoureMgr) are changed while no other thread draws. */
 #ifndef ZORVIC_ZORVIC_H
