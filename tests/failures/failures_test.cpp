@@ -1,6 +1,7 @@
 // Every export, and the scenarios, with the first, second... allocation failing, until none fails any more: alone, or with
 // all after it. Blocks lie before fences meanwhile, so that a use of what is not there, or no longer, ends the program.
 #include <algorithm>
+#include <climits>
 
 #include "calls/table.h"
 #include "failures/scenarios.h"
@@ -48,7 +49,8 @@ protected:
     void Sweep(Run run) {
         for (const int howMany : {1, Allocations::allLater}) {
             bool failed = true;
-            for (int k = 1; failed && !HasFailure(); ++k) {
+            // Beyond the 64th, ever fewer of them outside the soak run.
+            for (int k = 1; failed && !HasFailure(); k += 1 + k / zorvic::Amount(64, INT_MAX)) {
                 SCOPED_TRACE("allocation " + std::to_string(k) + " fails, " +
                              (howMany == 1 ? "alone" : "and all later"));
                 EXPECT_EQ(allocations.LeftBy([&] { failed = run(k, howMany); }), "");
