@@ -91,7 +91,6 @@ public:
         if (length > 0) way = (b - a) * (1 / length);
         const auto place = [&](double distance) { return length > 0 ? Mix(a, b, distance / length) : a; };
         for (double left = *current - phase;; left = dashes[dash]) {
-            if (++drawn > mostDashes) return false;
             const bool on = dash % 2 == 0;
             const double stop = std::min(at + left, end);
             if (on) {
@@ -108,6 +107,7 @@ public:
                 return true;
             }
             LiftPen();
+            if (++drawn > mostDashes) return false;
             at = stop;
             dash = (dash + 1) % dashes.size();
         }

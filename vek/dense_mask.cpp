@@ -73,7 +73,9 @@ private:
 // The pieces of the stroke along one figure.
 class StrokePieces {
 public:
-    StrokePieces(Band& target, const StrokeForm& stroke) : band(target), form(stroke), half(stroke.width / 2) {}
+    StrokePieces(Band& target, const StrokeForm& stroke) : band(target), form(stroke), half(stroke.width / 2) {
+        AddArc(circle, {}, 0, 2 * std::numbers::pi);
+    }
 
     void AddFigure(const std::vector<Point>& points, bool closed) {
         const auto [highest, lowest] = std::ranges::minmax(points, {}, &Point::y);
@@ -140,8 +142,8 @@ private:
         AddConvex(std::array{a + side, b + side, b - side, a - side});
     }
 
-    // Corners of a whole circle: a tenth of a pixel off.
-    double CircleCorners() const { return std::clamp(8 * std::sqrt(half), 8.0, 100.0); }
+    // Corners of a whole circle, for a fiftieth of a pixel.
+    double CircleCorners() const { return std::clamp(16 * std::sqrt(half), 16.0, 200.0); }
 
     void AddArc(std::vector<Point>& polygon, Point center, double from, double sweep) const {
         const int lines = static_cast<int>(std::ceil(CircleCorners() * std::abs(sweep) / (2 * std::numbers::pi)));
@@ -153,9 +155,9 @@ private:
 
     void AddDisk(Point center) {
         if (!IsNear(center, center, half)) return;
-        std::vector<Point> circle;
-        AddArc(circle, center, 0, 2 * std::numbers::pi);
-        AddConvex(circle);
+        std::vector<Point> disk = circle;
+        for (Point& p : disk) p = p + center;
+        AddConvex(disk);
     }
 
     void AddJoin(Point at, Point in, Point out) {
@@ -185,6 +187,7 @@ private:
     Band& band;
     const StrokeForm& form;
     double half;
+    std::vector<Point> circle;  // of the stroke's width, around 0, 0
 };
 
 void AddEdges(Band& band, const Path& path, const Flatness& flatness, const StrokeForm& stroke) {

@@ -107,7 +107,7 @@ TEST(Abuse, RandomCallsEndLeakNothingAndStayInsideTheClip) {
 TEST(Abuse, LargePathsAreDrawn) {
     std::mt19937 random(4);
     const Owned<VekPath> path(vekPathCreate());
-    for (int i = 0; i < zorvic::Amount(20000, 100000); ++i)
+    for (int i = 0; i < zorvic::Amount(8000, 100000); ++i)
         vekPathLineTo(path.get(), static_cast<float>(random() % 64000) / 100 - 20,
                       static_cast<float>(random() % 64000) / 100 - 20);
     const std::tuple<const char*, std::size_t, double> cases[] = {{"style 0", 0, 0.9},
@@ -128,7 +128,7 @@ TEST(Abuse, LargePathsAreDrawn) {
 // Threads with a canvas each, sharing nothing but a gradient whose handle is gone.
 TEST(Abuse, ThreadsDrawWhatOneDraws) {
     constexpr std::size_t threadCount = 16, seeds = 4;
-    const int rounds = zorvic::Amount(1024, 8192);
+    const int rounds = zorvic::Amount(512, 8192);
     std::vector<Drawing> drawings;
     {
         Pen pen(nullptr);

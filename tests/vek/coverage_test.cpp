@@ -13,7 +13,7 @@ TEST(Coverage, ShapesStrokesAndDashesHaveTheirArea) {
     const std::string slope = "width 10  line 40 60.5 120 120.5",
                       corner = "style 1  width 10  L 10 50  L 60 50  L 60 100  path",
                       shortLine = "  width 4  line 20 100 58 100", line = "  width 4  line 20 100 180 100",
-                      farLine = "  width 4  line -1e6 100 1e6 100";
+                      farLine = "  width 4  line -1e6 100 1e6 100", farDiagonal = "  width 20  line 100 100 1e6 1e6";
     const std::pair<double, std::string> cases[] = {
         {pi * 60.3 * 60.3, "circle 99.6 100.2 60.3"},
         {pi * 70.25 * 20, "ellipse 10.5 20.3 140.5 40"},
@@ -73,6 +73,12 @@ TEST(Coverage, ShapesStrokesAndDashesHaveTheirArea) {
         // Finer than can be seen; a corner inside a dash; 7 pixels into a dash on the left.
         {200 * 4 * 0.25, "dashes 1e-4 3e-4" + farLine},
         {(70 + 40) * 20, "style 1  width 20  dashes 1e9 1  L -1e6 50  L 60 50  L 60 100  path"},
+        // Dashes without a length are squares and dots that look along the line; of a near figure in a far path the last
+        // corner is joined.
+        {400, "dashes 0 1e5  cap 2" + farDiagonal},
+        {4.6, "clip 0 0 88 200  dashes 0 1e5  cap 2" + farDiagonal},
+        {pi * 10 * 10, "dashes 0 1e5  cap 1" + farDiagonal},
+        {100 * 100 - 60 * 60, "style 1  width 20  R 50 50 80 80  M 1e6 1e6  L 1e6 2e6  path"},
         {3 * 4, "clip 0 0 13 200  style 1  width 4  dashes 10 10  L -1000007 50  L -500003 50  L 1000007 50  path"},
     };
     for (const auto& [area, script] : cases) {
@@ -86,12 +92,17 @@ TEST(Coverage, ShapesStrokesAndDashesHaveTheirArea) {
 TEST(Coverage, ManyEdgesCoverTheSame) {
     // A drawing erases, or blends through a copy.
     const std::string modes[] = {"mode 0  ", "#FF000000 fill 0 0 200 200  mode 3  ", "mode 26  "},
-                      looks[] = {"style 0  path", "style 1  cap 0  join 0  path", "style 1  cap 1  join 1  path",
-                                 "style 1  cap 2  join 2  path"};
+                      looks[] = {"style 0  path",
+                                 "style 1  cap 0  join 0  path",
+                                 "style 1  cap 1  join 1  path",
+                                 "style 1  cap 2  join 2  path",
+                                 "style 1  cap 0  join 1  path",
+                                 "style 1  cap 1  dashes 0 60  path",
+                                 "style 1  cap 2  dashes 0 60  path"};
     const std::string figure = "M 20.3 150  L 50 30.6  L 90 160  L 120 40  L 170 120  C 120 190 80 190 60 100  ";
-    for (int kind = 0; kind < 7; ++kind) {
+    for (int kind = 0; kind < 13; ++kind) {
         Drawing once, often;
-        for (const auto& [drawing, copies] : {std::pair(&once, 1), {&often, kind == 0 ? 4000 : 2000}}) {
+        for (const auto& [drawing, copies] : {std::pair(&once, 1), {&often, kind < 9 ? 1000 : 2000}}) {
             Pen pen(*drawing);
             for (int i = 0; i < copies; ++i) Draw(pen, kind % 2 != 0 ? figure + "Z" : figure);
             Draw(pen, modes[kind % 3] + "width 14  " + looks[(kind + 1) / 2]);
@@ -100,12 +111,32 @@ TEST(Coverage, ManyEdgesCoverTheSame) {
         for (std::size_t i = 0; i < once.words.size(); ++i)
             ASSERT_TRUE(IsNear(often.words[i], once.words[i], 255 * 3 / 16)) << "kind " << kind << ", pixel " << i;
     }
+    // Without smoothing a pixel belongs to what covers half of it.
+    Drawing drawing;
+    Pen pen(drawing);
+    for (int i = 0; i < 1200; ++i) Draw(pen, "R 10.5 10 9.8 180");
+    Draw(pen, "smooth 0  path");
+    EXPECT_EQ(drawing.Area(), 10 * 180);
 }
 
 TEST(Coverage, WholePixelsAreExact) {
     const std::string color = "#80FF4020  ", rectangle = color + "fill 17 23 61 40";
     Drawing drawing;
     Draw(drawing, rectangle);
+    // Rounded to the nearest: over other pixels, and as the mix that an opacity makes.
+    Drawing noise;
+    FillWithNoise(noise, 5);
+    for (const auto& [script, k] : {std::pair(color + "fill 0 0 200 200", 255 - 0x80),
+                                    {color + "mode 1  value 100  fill 0 0 200 200", 255 - 100}}) {
+        const Pixels before = noise;
+        Draw(noise, script);
+        for (std::size_t i = 0; i < noise.words.size(); ++i)
+            for (const int shift : {0, 8, 16, 24}) {
+                const int own = Channel(0x80802010, shift) * (k == 127 ? 255 : 100);
+                const int wanted = static_cast<int>(std::lround((own + Channel(before.words[i], shift) * k) / 255.0));
+                ASSERT_EQ(Channel(noise.words[i], shift), wanted) << script;
+            }
+    }
     for (const auto& [x, y, pixel] : {std::tuple(17, 23, 0x80802010U), {60, 39, 0x80802010}, {61, 39, 0}, {60, 40, 0}})
         EXPECT_EQ(drawing.At(x, y), pixel) << x << ' ' << y;
     for (const char* script : {"rectangle 17 23 44 17", "translate 20.5 -1000  rectangle -3.5 1023 44 17",

@@ -1,5 +1,6 @@
 // Figures and current points, exact extents, arcs, and gradients sampled at known places.
 #include <cmath>
+#include <cstdio>
 
 #include "drawing.h"
 
@@ -27,6 +28,9 @@ TEST(Path, BoundsAreExact) {
         {"M 0 0  T 10 0 10 10 4", {0, 0, 10, 4}},
         {"M 8 0  T 10 0 10 10 4", {6, 0, 10, 4}},  // touches the line behind the point
         {"M 0 0  T 10 10 20 20 4", {0, 0, 10, 10}},
+        // A corner that is all but flat is rounded, unless its circle is too far away to be computed.
+        {"M 0 0  T 1000 0 2000 1 1000", {0, 0, 1000.5F, 5e-4F}},
+        {"M 0 0  T 10 1e-9 20 0 1e30", {0, 0, 10, 1e-9F}},
         {"R 3e38 -3e38 3e38 -3e38", {3e38F, -3.4028235e38F, 3.4028235e38F, -3e38F}},
     };
     for (const auto& [script, bounds] : cases) {
@@ -39,6 +43,13 @@ TEST(Path, BoundsAreExact) {
 }
 
 TEST(Gradient, ColorsAtKnownPlaces) {
+    // More stops than can be seen.
+    std::string ramp;
+    for (int i = 0; i <= 4080; ++i) {
+        char stop[40];
+        std::snprintf(stop, sizeof stop, "#FF%02X00%02X stop %.6f  ", 255 - i / 16, i / 16, i / 4080.0);
+        ramp = stop + ramp;
+    }
     const std::string linear = "linear 50 0 150 0  ", redToBlue = "#FFFF0000 stop 0  #FF0000FF stop 1  ";
     const std::pair<std::string, std::vector<std::tuple<int, int, Pixel>>> cases[] = {
         {linear + redToBlue, {{10, 5, 0xFFFF0000}, {100, 5, 0xFF7E0081}, {170, 5, 0xFF0000FF}}},
@@ -58,6 +69,7 @@ TEST(Gradient, ColorsAtKnownPlaces) {
          {{50, 50, 0}, {100, 100, 0xFF3E00C1}, {20, 100, 0xFFFF0000}, {180, 100, 0xFF0000FF}, {150, 150, 0}}},
         {"radial 100 100 9 100 100 9  " + redToBlue, {{100, 100, 0}}},
         {"linear -3e38 0 3e38 0  " + redToBlue, {{100, 5, 0xFF7F0080}}},
+        {linear + ramp, {{75, 5, 0xFFBE0041}, {100, 5, 0xFF7E0081}, {170, 5, 0xFF0000FF}}},
         {linear + redToBlue + "value 128  ", {{100, 5, 0x803F0041}}},
         // Stops that are added between two drawings.
         {linear + "style 2  #FFFF0000 stop 0  rectangle 0 0 9 9  #FF0000FF stop 1", {{100, 5, 0xFF7E0081}}},
