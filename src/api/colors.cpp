@@ -18,9 +18,18 @@ Triple ToTriple(DWORD word) {
 }  // namespace
 
 DWORD ZORVIC_CALL ARGBtoAHSL(DWORD argb) { return zorvic::ToAhsl(argb); }
-DWORD ZORVIC_CALL AHSLtoARGB(DWORD ahsl) { return zorvic::ToArgb(ahsl); }
+
+DWORD ZORVIC_CALL AHSLtoARGB(DWORD ahsl) {
+    const zorvic::OwnFloats floats;
+    return zorvic::ToArgb(ahsl);
+}
+
 HSLTriple ZORVIC_CALL RGBtoHSL(RGBTriple rgb) { return ToTriple<HSLTriple>(zorvic::ToAhsl(Word(rgb))); }
-RGBTriple ZORVIC_CALL HSLtoRGB(HSLTriple hsl) { return ToTriple<RGBTriple>(zorvic::ToArgb(Word(hsl))); }
+
+RGBTriple ZORVIC_CALL HSLtoRGB(HSLTriple hsl) {
+    const zorvic::OwnFloats floats;
+    return ToTriple<RGBTriple>(zorvic::ToArgb(Word(hsl)));
+}
 
 DWORD ZORVIC_CALL ARGBColorize(DWORD argb, float hue, float saturation, float lightness) {
     const zorvic::OwnFloats floats;

@@ -62,8 +62,8 @@ std::string FaultOfSequence(int seed, const Replay& replay) {
     std::uint64_t checksum, usual = 0;
     if (!replay.allStates) return FaultOf([&] { return Run(seed, replay, nullptr, checksum); });
     // Precision of 64, 24 and 53 bits; then invalid numbers, divisions by 0 and overflows are not masked, as by some hosts'
-    // runtimes. GDI's own arithmetic cannot stand that with absurd integers.
-    constexpr Processor states[] = {{0}, {4, 0x007F}, {8, 0x027F}, {12, 0x0372, 0x1900}};
+    // runtimes (GDI's own arithmetic cannot stand that with absurd integers); at last numbers are rounded up.
+    constexpr Processor states[] = {{0}, {4, 0x007F}, {8, 0x027F}, {12, 0x0372, 0x1900}, {0, 0x0B7F, 0x5F80}};
     for (const Processor& state : states) {
         std::string fault = FaultOf([&] { return Run(seed, replay, &state, checksum); });
         if (&state == states) usual = checksum;

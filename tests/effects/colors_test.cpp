@@ -1,4 +1,6 @@
 // Single colours through the DLL: packing, and how the records of three bytes travel.
+#include <xmmintrin.h>
+
 #include "support/host.h"
 
 namespace {
@@ -45,6 +47,22 @@ TEST(Colors, TriplesAreTheLowBytesOfWords) {
     EXPECT_EQ(hsl.hue, 254);
     EXPECT_EQ(hsl.saturation, 255);
     EXPECT_EQ(hsl.lightness, 128);
+}
+
+// Down, up and toward zero.
+TEST(Colors, DoNotDependOnTheHostsRounding) {
+    for (DWORD i = 0; i < 20'000; ++i) {
+        const DWORD ahsl = host::Pattern{}(static_cast<int>(i), 1);
+        const DWORD nearest = AHSLtoARGB(ahsl), colorized = ARGBColorize(ahsl, 0.3F, -0.2F, 0.1F);
+        for (const unsigned rounding : {0x2000U, 0x4000U, 0x6000U}) {
+            _mm_setcsr(0x1F80 | rounding);
+            const DWORD word = AHSLtoARGB(ahsl), again = ARGBColorize(ahsl, 0.3F, -0.2F, 0.1F);
+            const DWORD triple = Call<Convert>("HSLtoRGB", ahsl & 0xFFFFFF);
+            _mm_setcsr(0x1F80);
+            ASSERT_TRUE(word == nearest && again == colorized) << std::hex << ahsl;
+            ASSERT_EQ(triple, nearest & 0xFFFFFF) << std::hex << ahsl;
+        }
+    }
 }
 
 }  // namespace
