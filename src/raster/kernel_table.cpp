@@ -56,26 +56,33 @@ constexpr bool GainsFromAvx512(Rows rows, Op op) {
     }
 }
 
-consteval SlotMask Avx512Slots() {
+// Kernels that read the filter weights in memory: area reduction enlarges by them.
+constexpr bool ReadsWeights(Rows rows, Op) { return rows == Rows::bicubic || rows == Rows::area; }
+
+template <class Has>
+consteval SlotMask SlotsThat(Has has) {
     SlotMask mask{};
     std::apply(
         [&](const auto&... entry) {
-            const auto mark = [&](int first, int count, bool gains) {
-                for (int slot = first; slot < first + count; ++slot) mask[static_cast<std::size_t>(slot)] = gains;
+            const auto mark = [&](int first, int count, bool in) {
+                for (int slot = first; slot < first + count; ++slot) mask[static_cast<std::size_t>(slot)] = in;
             };
-            (mark(FirstIndex(entry), entry.count, GainsFromAvx512(entry.rows, entry.op)), ...);
+            (mark(FirstIndex(entry), entry.count, has(entry.rows, entry.op)), ...);
         },
         slots::all);
     return mask;
 }
 
 const KernelSet& WidestKernels(int slot, Level level) {
-    static constexpr SlotMask avx512Slots = Avx512Slots();
+    static constexpr SlotMask avx512Slots = SlotsThat(GainsFromAvx512);
     if (level == Level::avx512 && avx512Slots[static_cast<std::size_t>(slot)]) return avx512Kernels;
     return level >= Level::avx2 ? avx2Kernels : sse2Kernels;
 }
 
 const KernelSet& KernelsOf(int slot, Stage stage, const CpuFeatures& features, std::optional<Level> primitives) {
+    // Without MMX weights are not packed: only the baseline's arithmetic suits them.
+    static constexpr SlotMask weighted = SlotsThat(ReadsWeights);
+    if (!features.cpuHasMMX && weighted[static_cast<std::size_t>(slot)]) return baselineKernels;
     switch (stage) {
         case Stage::mmx:
             return mmxKernels;
@@ -88,7 +95,6 @@ const KernelSet& KernelsOf(int slot, Stage stage, const CpuFeatures& features, s
         case Stage::routed:
             return routedKernels;
         default:
-            // The weights in memory decide on the arithmetic.
             return features.cpuHasMMX ? packedKernels : baselineKernels;
     }
 }

@@ -70,6 +70,23 @@ TEST_F(Sampling, RowsAndColumnsWorkedByHand) {
     }
 }
 
+TEST_F(Sampling, AreaEnlargesBicubicallyOnEveryProcessor) {
+    Random random(5);
+    for (int features = 0; features < 8; ++features) {
+        FillTables({true, (features & 1) != 0, (features & 2) != 0, (features & 4) != 0});
+        for (const int bits : {8, 24, 32}) {
+            const Image source(random, 9, 7, bits);
+            EXPECT_EQ(Stretched(source, 20, 13, area).Pixels(), Stretched(source, 20, 13, bicubic).Pixels())
+                << features;
+            const Image one(20, 13), other(20, 13);
+            const Placement part{3, 2, 40, 30};
+            SelectPlacedKernel(one.Info(), part, source.Info(), 0, area, 255);
+            SelectPlacedKernel(other.Info(), part, source.Info(), 0, bicubic, 255);
+            EXPECT_EQ(one.Pixels(), other.Pixels()) << "placed, processor " << features;
+        }
+    }
+}
+
 TEST_F(Sampling, AreaReducesTheLargestImagesToOnePixel) {
     // Half of the pixels white: 255 / 2, truncated; all of them white: 255.
     for (const auto& [width, height] : {std::pair{32766, 40}, {40, 32766}, {4000, 4000}})
