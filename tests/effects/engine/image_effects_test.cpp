@@ -21,7 +21,10 @@ constexpr HslAmounts amounts{-0.7F, 0.4F, -0.25F};
 void Colorize(const BitmapLockInfo& image) { ColorizeImage(image, amounts); }
 void ShowAlpha(const BitmapLockInfo& image) { ShuffleImage(image, Shuffle::alphaToGray); }
 void TakeAlpha(const BitmapLockInfo& image) { ShuffleImage(image, Shuffle::colorToAlpha); }
-void ReplaceWhite(const BitmapLockInfo& image) { ReplaceColor(image, 0xFFFFFFFF, 0x12345678); }
+// 24-bit pixels have no alpha to compare.
+void ReplaceWhite(const BitmapLockInfo& image) {
+    ReplaceColor(image, image.bmBitsPixel == 24 ? 0x77FFFFFF : 0xFFFFFFFF, 0x12345678);
+}
 
 // Channel i of what they make of a pixel.
 int Gray(DWORD p, int i) { return i < 3 ? SlowLuma(p) : AlphaOf(p); }
