@@ -60,6 +60,9 @@ TEST(Bitmaps, PartsOfTheSourceMustLieInsideIt) {
     EXPECT_TRUE(Shows(canvas.get(), Plain{}));
     EXPECT_EQ(DrawBitmapEx2(canvas.get(), &dst, source.get(), &inside, 0, 255), 1);
     EXPECT_TRUE(Shows(canvas.get(), [&](int x, int y) { return Inside(dst, x, y) ? Pattern{}(x + 6, y + 4) : 0; }));
+    const OwnedCanvas larger(CreateCanvas(14, 14, nullptr));
+    EXPECT_EQ(DrawBitmap(larger.get(), nullptr, source.get(), 0), 1);
+    EXPECT_TRUE(Shows(larger.get(), [](int x, int y) { return x < 12 && y < 9 ? Pattern{}(x, y) : 0; })) << "own size";
 }
 
 // Bits that are fewer than 8 for each pixel cannot be locked.

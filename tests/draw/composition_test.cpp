@@ -27,9 +27,9 @@ auto Drawn(const RECT& dst, const RECT& src, PremultipliedPattern source, Premul
 
 constexpr int amounts[] = {0, 1, 2, 77, 127, 128, 254, 255};
 constexpr RECT one{0, 0, 1, 1};
-// Into a canvas of 40 x 30, from one of 32 x 24: at the same size, enlarged, reduced, both.
+// Into a canvas of 40 x 30, from one of 32 x 24: at the same size, enlarged, reduced, both; one side as it is.
 constexpr RECT placed{5, 3, 31, 24};
-constexpr RECT sources[] = {{4, 2, 30, 23}, {1, 1, 9, 6}, {0, 0, 32, 24}, {6, 0, 7, 23}};
+constexpr RECT sources[] = {{4, 2, 30, 23}, {1, 1, 9, 6}, {0, 0, 32, 24}, {6, 0, 7, 23}, {6, 0, 7, 21}, {0, 0, 26, 24}};
 
 }  // namespace
 

@@ -1,4 +1,5 @@
 // Fitted, cropped and tiled textures: where each piece comes from and goes to, in literal rectangles.
+#include <bit>
 #include <cmath>
 
 #include "draw/pieces.h"
@@ -169,7 +170,10 @@ TEST(Layouts, AreChosenByTheTexturesMode) {
                 if (slice) SetTextureSlice(skin.get(), 2, slices);
                 SetTextureCurSlice(skin.get(), 0);
                 const OwnedCanvas canvas = MakeTarget(), wanted = MakeTarget();
-                EXPECT_EQ(DrawTextureEx2(canvas.get(), &dst, skin.get(), filter, alpha, tileScale, 2),
+                // The other call takes the bits of the tile scale, and any number but 0 for a scale of 2.
+                EXPECT_EQ(argument == 1 ? DrawTextureEx2(canvas.get(), &dst, skin.get(), filter, alpha, tileScale, 2)
+                                        : DrawTextureEx(canvas.get(), &dst, skin.get(), filter, alpha,
+                                                        std::bit_cast<DWORD>(tileScale), 7),
                           direct(wanted.get(), skin.get(), slice, mode))
                     << "layout " << layout;
                 EXPECT_TRUE(Shows(canvas.get(), Snapshot(wanted.get()))) << "layout " << layout << ' ' << argument;

@@ -88,4 +88,11 @@ TEST(NineGrid, FillsItsCentreWithOnePixelOfTheTexture) {
                     << "depth " << depth << " operation " << operation << " alpha " << int{alpha};
             }
     }
+    // A centre behind the last column or row has no pixel.
+    constexpr RECT texture{0, 0, 100, 60};
+    for (const auto& [to, cut] : {Piece{{0, 0, 110, 60}, {100, 0, 0, 0}}, {{0, 0, 100, 70}, {0, 60, 0, 0}}})
+        ExpectPieces(ToText(cut), 1, {{texture, texture}},
+                     [&](HGCANVAS canvas, HGTEXTURE skin, DWORD filter, BYTE alpha) {
+                         return DrawTexture9Grid(canvas, &to, skin, nullptr, &cut, filter, 1, alpha, 0, 1, 1);
+                     });
 }

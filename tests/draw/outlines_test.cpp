@@ -56,6 +56,10 @@ TEST(Outlines, OtherCanvasesAreDrawnByGdi) {
     })) << "GDI leaves no alpha";
     EXPECT_NE(GetCurrentObject(GetCanvasHandle(canvas.get()), OBJ_PEN), pen) << "the pen stayed selected";
     DeleteObject(pen);
+    Fill(canvas.get(), Plain{0x00808080});
+    EXPECT_EQ(GeoRectangle(canvas.get(), &rect, nullptr, nullptr), 1);
+    EXPECT_TRUE(Shows(canvas.get(), [&](int x, int y) { return OnFrame(rect, x, y) ? 0U : 0x00808080U; }))
+        << "black without a pen, hollow without a brush";
 
     const GdiBitmap dib = GdiBitmap::Dib(12, 8);
     const OwnedCanvas dcCanvas(CreateCanvasFromDC(dib.Dc()));

@@ -40,6 +40,10 @@ TEST(RoundedTextures, KeepTheirMiddleAndLoseTheirCorners) {
     const RECT same{0, 0, 8, 8};
     EXPECT_EQ(DrawTextureEx3(canvas.get(), &same, rgb.get(), &params, nullptr), 1);
     EXPECT_TRUE(Shows(canvas.get(), Plain{0xFF123456}));
+    params.ellipse = 1;
+    Fill(canvas.get(), Plain{0xFF0000FF});
+    EXPECT_EQ(DrawTextureEx3(canvas.get(), &same, rgb.get(), &params, nullptr), 1);
+    EXPECT_EQ(Pixels(canvas.get()).Get(0, 0), 0xFF0000FFU) << "a corner shows what was there";
 }
 
 TEST(RoundedTextures, AreAskedForByAnyOfTheRadii) {
