@@ -156,7 +156,8 @@ TEST(Blend, BitmapsAreSampledAndMayShareThePixels) {
     const Pixels before = drawing;
     vekCanvasSetBlendMode(drawing, VEK_BLEND_SOURCE);
     const Owned<VekBitmap> part(vekBitmapCreateFromData(&drawing.At(1, 0), 11, 12, 48));
-    EXPECT_EQ(vekCanvasDrawBitmap(drawing, part.get(), 2, 3), 1);
+    vekCanvasTranslate(drawing, 5, -4);
+    EXPECT_EQ(vekCanvasDrawBitmap(drawing, part.get(), -3, 7), 1);
     for (int y = 3; y < 12; ++y)
         for (int x = 2; x < 12; ++x) ASSERT_EQ(drawing.At(x, y), before.At(x - 1, y - 3));
 }

@@ -28,14 +28,19 @@ TEST(Coverage, ShapesStrokesAndDashesHaveTheirArea) {
          "L 100 0  L 158.78 180.9  L 4.89 69.1  L 195.11 69.1  L 41.22 180.9  path"},
         {pi * (50 * 50 - 20 * 20), "O 100 100 50  A 100 100 20 0 -6.2831853 1  path"},
         {1, "point 20.5 30.75"},
-        // Of the circle only a straight edge is seen, of the triangle a corner cut off.
+        // Of the circles only a straight edge is seen, of the triangle a corner cut off.
         {100 * 200, "circle -1e7 100 1.00001e7"},
+        {100 * 200, "circle 1e7 100 9.9999e6"},
+        {200 * 100, "circle 100 -1e7 1.00001e7"},
+        {200 * 100, "circle 100 1e7 9.9999e6"},
         {200 * 200 - 200 * 75, "L 4e6 1000050  L -4e6 4e6  L -4e6 -999950  path"},
         {pi * 40.3 * 40.3, "smooth 0  circle 60 60 40.3"},
 
         {100 * 10, "cap 0  " + slope},
         {100 * 10 + pi * 5 * 5, "cap 1  " + slope},
         {110 * 10, "cap 2  " + slope},
+        // Through a copy of the pixels that the line may touch: the corners of a cap reach farther than half the width.
+        {(40 * std::sqrt(2) + 40) * 40, "mode 12  cap 2  join 2  width 40  line 80 80 120 120"},
         {1000, "join 0  " + corner},
         {975 + pi * 5 * 5 / 4, "join 1  " + corner},
         {975 + 0.5 * 5 * 5, "join 2  " + corner},
@@ -70,6 +75,8 @@ TEST(Coverage, ShapesStrokesAndDashesHaveTheirArea) {
         {98 * 4, "dashes 7 5 2" + farLine},
         {100 * 4, "dashes 10 10" + farLine},
         {pi * 60 * 4, "style 1  width 4  dashes 18.85 18.85  circle 100 100 60"},
+        // Around a far triangle. Its outline is no multiple of the dashes and comes back in a gap.
+        {110 * 4, "style 1  width 4  dashes 110 300  L 50 100  L 300050 100  L 50 400100  Z  path"},
         // Finer than can be seen; a corner inside a dash; 7 pixels into a dash on the left.
         {200 * 4 * 0.25, "dashes 1e-4 3e-4" + farLine},
         {(70 + 40) * 20, "style 1  width 20  dashes 1e9 1  L -1e6 50  L 60 50  L 60 100  path"},
@@ -143,6 +150,14 @@ TEST(Coverage, WholePixelsAreExact) {
                                "clip 17 23 61 40  rectangle -1e9 -1e9 2e9 2e9", "width 17  line 17 31.5 61 31.5",
                                "L 17 23  L 61 23  L 61 40  L 17 40  path", "smooth 0  rectangle 16.5 22.6 44.3 17.8"})
         EXPECT_TRUE(AreTheSame(color + script, rectangle));
+    // A flat round rectangle is stroked as a line is; an inverted one is not drawn.
+    for (const LONG bottom : {31, 30}) {
+        Drawing flat;
+        Draw(flat, "style 1  width 4");
+        const RECT rect{17, 31, 61, bottom};
+        EXPECT_EQ(vekCanvasDrawRoundRect(flat, &rect, 5, 5), 1);
+        EXPECT_EQ(flat.Area(), bottom == 31 ? 44 * 4 : 0);
+    }
 }
 
 TEST(Coverage, WithoutSmoothingPixelsAreAllOrNothing) {

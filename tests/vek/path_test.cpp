@@ -16,6 +16,8 @@ TEST(Path, BoundsAreExact) {
         {"O 3 4 5", {-2, -1, 8, 9}},
         {"E 1 2 30 4", {1, 2, 31, 6}},
         {"M 0 0  C 18 0 -9 9 9 9", {0, 0, 9, 9}},  // a loop sideways
+        {"M 0 0  C 0 0 9 0 0 10", {0, 0, 4, 10}},  // one control point lies on the box of the ends
+        {"M 0 0  C 9 0 0 10 0 10", {0, 0, 4, 10}},
         {"M 0 0  Q 10 20 20 0", {0, 0, 20, 10}},
         {"Q 10 20 20 0", {10, 0, 20, 20}},  // starts at the first point given
         {"C 0 40 10 40 10 0", {0, 0, 10, 40}},
@@ -64,6 +66,7 @@ TEST(Gradient, ColorsAtKnownPlaces) {
         {"radial 100 100 20 100 100 70  " + redToBlue,
          {{100, 100, 0xFFFF0000}, {145, 100, 0xFF7C0083}, {100, 199, 0xFF0000FF}}},
         {"radial 100 100 70 100 100 20  " + redToBlue, {{100, 100, 0xFF0000FF}, {100, 199, 0xFFFF0000}}},
+        {"radial 100 100 -20 100 100 70  " + redToBlue, {{100, 100, 0xFFFC0003}, {135, 100, 0xFF7E0081}}},
         // Circles apart make a cone.
         {"radial 50 100 10 150 100 30  " + redToBlue,
          {{50, 50, 0}, {100, 100, 0xFF3E00C1}, {20, 100, 0xFFFF0000}, {180, 100, 0xFF0000FF}, {150, 150, 0}}},

@@ -71,7 +71,8 @@ TEST(State, RestoreUndoesEverything) {
 TEST(State, ClipsLayersAndGradientsFollowTheTranslation) {
     const std::string everything = "  rectangle -1e6 -1e6 2e6 2e6",
                       marks = "  point 3 4  fill 9 9 20 20  line 0 30 9 50", linear = "  style 2  #FFFF0000 linear ",
-                      stops = " stop 0  #FF0000FF stop 1  ";
+                      stops = " stop 0  #FF0000FF stop 1  ", dot = "  style 0  #FF112233 circle ",
+                      shaded = linear + "0 0 100 0" + stops + "circle 90 30 20";
     const std::pair<std::string, std::string> same[] = {
         {"clip 10 10 100 100  translate 50 60  clip -20 -20 30 30  translate -50 -60" + everything, "fill 30 40 80 90"},
         {"clip 50 50 50 60  clip 10 10 100 100" + everything, ""},
@@ -83,6 +84,8 @@ TEST(State, ClipsLayersAndGradientsFollowTheTranslation) {
          "bitmap 30 20  #80FF0000 fill 30 20 60 80  #800000FF fill 60 20 90 80"},
         {"style 2  #FF112233" + everything, "#FF112233 fill 0 0 200 200"},
         {"style 2  linear 0 0 9 9" + marks, marks},
+        // The same colour before and after a gradient.
+        {dot + "30 30 9" + shaded + dot + "30 90 9", shaded + dot + "30 30 9" + dot + "30 90 9"},
         {linear + "0 0 100 0" + stops +
              "rectangle 0 0 9 9  translate 50 20  circle 50 50 30  value 99  rectangle 0 90 90 9",
          linear + "0 0 100 0" + stops + "rectangle 0 0 9 9" + linear + "50 20 150 20" + stops + "circle 100 70 30" +
