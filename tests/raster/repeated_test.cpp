@@ -40,13 +40,13 @@ void CountCalls() {
     (std::make_index_sequence<std::tuple_size_v<decltype(slots::all)>>());
 }
 
-struct Job {
+struct RowJob {
     Placement placement;
     std::uint32_t operationWord, filterMode;
     std::uint8_t alpha;
 };
 
-void DrawOneByOne(const BitmapLockInfo& dst, const Job& job, const BitmapLockInfo& src) {
+void DrawOneByOne(const BitmapLockInfo& dst, const RowJob& job, const BitmapLockInfo& src) {
     const auto& [left, top, width, height] = job.placement;
     for (int x = 0; x < dst.bmWidth;) {
         const std::int64_t inCopy = (left + x) % width;
@@ -67,7 +67,7 @@ TEST(Repeated, DrawsWhatCopiesOneByOneDraw) {
         const bool isScaled = i % 4 != 0;
         const int width = isScaled ? 1 + random.Below(70) : source.Info().bmWidth;
         const int height = isScaled ? 1 + random.Below(20) : source.Info().bmHeight;
-        Job job{
+        RowJob job{
             {}, static_cast<std::uint32_t>(random.Below(8)) << 24, static_cast<std::uint32_t>(random.Below(6)), 255};
         if (job.operationWord >> 24 == 2) job.operationWord |= source.At(0, 0) & 0xFFFFFF;
         if (random.Below(2) == 0) job.alpha = static_cast<std::uint8_t>(random.Word());
@@ -95,7 +95,7 @@ TEST(Repeated, DrawsWhatCopiesOneByOneDraw) {
 TEST(Repeated, DrawsOverItsSourceStepByStep) {
     Random random(2);
     Image dst(random, 60, 4), wanted = dst;
-    const Job job{{0, 0, 2, 4}, 0x01000000, 1, 200};
+    const RowJob job{{0, 0, 2, 4}, 0x01000000, 1, 200};
     const auto source = [](const Image& image) { return PartOf(image.Info(), 5, 0, 2, 4); };
     Repeated(dst.Info(), job.operationWord, job.filterMode, job.alpha).Draw(dst.Info(), job.placement, source(dst));
     DrawOneByOne(wanted.Info(), job, source(wanted));

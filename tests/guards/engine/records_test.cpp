@@ -71,7 +71,7 @@ private:
 enum class Work { copy, mirror, blend, set, setColors, bitOr, bitAnd };
 constexpr const char* names[] = {"copy", "mirror", "blend", "set", "set colors", "or", "and"};
 
-struct Job {
+struct RecordJob {
     Work work;
     bool hasArea;
     RECT area;
@@ -81,7 +81,7 @@ struct Job {
     bool IsPacked() const { return work == Work::bitOr || work == Work::bitAnd; }
 };
 
-bool RunJob(const Job& job, const BITMAP& src, const BITMAP& dst) {
+bool RunJob(const RecordJob& job, const BITMAP& src, const BITMAP& dst) {
     switch (job.work) {
         case Work::copy:
             return CopyImage(src, dst, job.hasArea ? &job.area : nullptr);
@@ -98,7 +98,7 @@ bool RunJob(const Job& job, const BITMAP& src, const BITMAP& dst) {
     }
 }
 
-DWORD Changed(const Job& job, DWORD d, DWORD s) {
+DWORD Changed(const RecordJob& job, DWORD d, DWORD s) {
     switch (job.work) {
         case Work::blend:
             return host::SlowBlend(s, d);
@@ -116,7 +116,7 @@ DWORD Changed(const Job& job, DWORD d, DWORD s) {
 }
 
 // Where a job's pixel (x, y) lies. Copies start twice the bytes of the left columns into a row.
-std::int64_t PlaceOf(std::int64_t x, std::int64_t y, const BITMAP& image, const Job& job, const BITMAP& src) {
+std::int64_t PlaceOf(std::int64_t x, std::int64_t y, const BITMAP& image, const RecordJob& job, const BITMAP& src) {
     if (job.IsPacked()) return 4 * (y * image.bmWidth + x);
     if (job.work != Work::copy || !job.hasArea)
         return y * image.bmWidthBytes + x * (job.work == Work::copy ? src.bmBitsPixel / 8 : 4);
@@ -125,7 +125,7 @@ std::int64_t PlaceOf(std::int64_t x, std::int64_t y, const BITMAP& image, const 
 }
 
 // Does a job to the bytes as they should be, and returns what the job should.
-bool RunModel(const Job& job, Described& src, Described& dst) {
+bool RunModel(const RecordJob& job, Described& src, Described& dst) {
     const BITMAP &from = src.record, &to = dst.record;
     const bool isCopy = job.work == Work::copy, isMirror = job.work == Work::mirror;
     const RECT area = isCopy && job.hasArea ? job.area : RECT{0, 0, from.bmWidth, from.bmHeight};
@@ -164,7 +164,7 @@ RECT AnyArea(Random& random) {
 }
 
 // Rows that overlap, mirrored in place, give undefined pixels.
-bool IsUndefined(const Job& job, const BITMAP& image) {
+bool IsUndefined(const RecordJob& job, const BITMAP& image) {
     return job.work == Work::mirror && std::abs(image.bmWidthBytes) < 4 * image.bmWidth;
 }
 
@@ -174,7 +174,7 @@ TEST(Records, KeepEveryOperationInside) {
     Described first(endOf(0)), dst(endOf(1));
     Random random(1);
     for (int round = 0; round < 40'000; ++round) {
-        const Job job{static_cast<Work>(round % 7), random.Below(3) != 0, AnyArea(random), random.Below(3),
+        const RecordJob job{static_cast<Work>(round % 7), random.Below(3) != 0, AnyArea(random), random.Below(3),
                       random.Word()};
         const bool inPlace = random.Below(4) == 0 || job.work == Work::set || job.work == Work::setColors;
         Described& src = inPlace ? dst : first;
