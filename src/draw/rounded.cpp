@@ -9,6 +9,7 @@
 #include "canvas/vector_canvas.h"
 #include "draw/bitmaps.h"
 #include "draw/coordinates.h"
+#include "draw/vector_shapes.h"
 #include "raster/selectors.h"
 #include "zorvic/zorvic.h"
 
@@ -27,15 +28,19 @@ struct Frame {
     LONG width, height, top, bottom;
 };
 
-// Makes the pixels of the stretched texture. (Not a bitmap: the resource manager would be told of its end in the middle of
-// the draw.)
-bool Stretch(MemoryPixelStore& picture, const Frame& frame, const Texture& texture, DWORD filterMode) {
-    const SurfaceLock source(texture);
-    BITMAP description{0, frame.width, frame.bottom - frame.top, 0, 1, 32, nullptr};
-    BitmapLockInfo pixels;
-    if (!source || !picture.Create(&description, 0) || !picture.LockEx(&pixels, nullptr)) return false;
+// The picture: the texture's own pixels where they are at hand in its size, else samples. (Not in a bitmap: the resource
+// manager would be told of its end in the middle of the draw.) False when memory is short.
+bool MakePicture(BitmapLockInfo& picture, MemoryPixelStore& samples, const BitmapLockInfo& texture, const Frame& frame,
+                 DWORD filterMode) {
+    const LONG rows = frame.bottom - frame.top;
+    if (texture.bmBitsPixel == 32 && texture.bmWidth == frame.width && texture.bmHeight == frame.height) {
+        picture = PartOf(texture, 0, frame.top, frame.width, rows);
+        return true;
+    }
+    BITMAP description{0, frame.width, rows, 0, 1, 32, nullptr};
+    if (!samples.Create(&description, 0) || !samples.LockEx(&picture, nullptr)) return false;
     const Placement placement{0, frame.top, frame.width, frame.height};
-    SelectSamplingKernel(pixels, placement, *source, ZORVIC_OP_SOURCE_OVER, filterMode, 255);
+    SelectSamplingKernel(picture, placement, texture, ZORVIC_OP_SOURCE_OVER, filterMode, 255);
     return true;
 }
 
@@ -50,16 +55,14 @@ void DrawShape(VekCanvas canvas, const Frame& frame, const TextureDrawParams& pa
     } else {
         const float scaleX = width / static_cast<float>(WidthOf(dst));
         const float scaleY = height / static_cast<float>(HeightOf(dst));
-        vekCanvasDrawRoundRect(canvas, &box, params.cornerRadii[0] * scaleX, params.cornerRadii[1] * scaleY);
+        DrawRoundRect(canvas, box, params.cornerRadii[0] * scaleX, params.cornerRadii[1] * scaleY);
     }
     if (frame.top > 0) vekCanvasTranslate(canvas, 0, top);
 }
 
-bool DrawInto(VekCanvas shape, const MemoryPixelStore& picture) {
-    BitmapLockInfo pixels;
-    if (!picture.LockEx(&pixels, nullptr)) return false;
+bool DrawInto(VekCanvas shape, const BitmapLockInfo& picture) {
     const OwnedVekBitmap bitmap(
-        vekBitmapCreateFromData(pixels.bmBits, pixels.bmWidth, pixels.bmHeight, pixels.bmWidthBytes));
+        vekBitmapCreateFromData(picture.bmBits, picture.bmWidth, picture.bmHeight, picture.bmWidthBytes));
     vekCanvasSetBlendMode(shape, VEK_BLEND_SOURCE_IN);
     const bool drawn = vekCanvasDrawBitmap(shape, bitmap.get(), 0, 0);
     vekCanvasSetBlendMode(shape, VEK_BLEND_SOURCE_OVER);
@@ -88,8 +91,10 @@ int DrawRoundedTexture(Canvas& canvas, const RECT& dst, const Texture& texture, 
         frame.bottom = shown.bottom - dst.top;
     }
 
-    MemoryPixelStore picture;
-    if (!Stretch(picture, frame, texture, params.filterMode)) return 1;
+    const SurfaceLock source(texture);
+    MemoryPixelStore samples;
+    BitmapLockInfo picture;
+    if (!source || !MakePicture(picture, samples, *source, frame, params.filterMode)) return 1;
     const auto cut = Canvas::Create(frame.width, frame.bottom - frame.top, StoreKind::memory, nullptr);
     if (!cut) return 1;
     cut->SetFilter(ZORVIC_OP_SOURCE_OVER);
