@@ -24,6 +24,12 @@ const struct {
     {"copy", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, nullptr); }, 1, {0x80402010, 0, 3, 4, 5, 6}},
     {"copy a row", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, &lastRow); }, 1, {~0UL, ~0UL, ~0UL, 4, 5, ~0UL}},
     {"copy what lies inside", [](BITMAP* s, BITMAP* d) { return CopyBitmap_IPP(s, d, &outside); }, 1, {0x80402010, ~0UL, 3, 4, ~0UL, 6}},
+    {"copy onto its own next rows", [](BITMAP* s, BITMAP* d) -> int {
+         Words image{1, 2, 3, 4, 5, 6, 7, 8, 9};
+         *s = *d = {0, 3, 2, 12, 1, 32, image.data()};
+         d->bmBits = &image[3];
+         return CopyBitmap_IPP(s, d, &outside) && image == Words{1, 2, 3, 1, 5, 3, 4, 8, 6};
+     }, 1, Words(6, ~0UL)},
     {"copy to bits and step", [](BITMAP* s, BITMAP* d) -> int { return d->bmWidth = d->bmHeight = 0, CopyBitmap_IPP(s, d, nullptr); }, 1, {0x80402010, 0, 3, 4, 5, 6}},
     {"copy to a smaller image", [](BITMAP* s, BITMAP* d) -> int { return d->bmWidth = 2, d->bmHeight = 1, CopyBitmap_IPP(s, d, nullptr); }, 1, {0x80402010, 0, ~0UL, ~0UL, ~0UL, ~0UL}},
     {"blur two columns", [](BITMAP* s, BITMAP* d) -> int {

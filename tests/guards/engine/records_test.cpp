@@ -195,12 +195,13 @@ TEST(Records, KeepEveryOperationInside) {
 TEST(Records, WithoutMemoryAreLeftAlone) {
     DWORD pixels[4] = {1, 2, 3, 4};
     const BITMAP records[] = {{0, 1, 0x40000001, 4, 1, 32, pixels},
-                              {0, INT32_MAX, 1, INT32_MIN, 1, 65535, pixels},
+                              {0, INT32_MAX, 1, 4, 1, 65535, pixels},
                               {0, INT32_MAX, INT32_MAX, INT32_MAX, 1, 65535, pixels}};
     for (const BITMAP& record : records)
         for (int work = 0; work < 7 && (sizeof(void*) == 4 || record.bmHeight == INT32_MAX); ++work)
             EXPECT_TRUE(RunJob({static_cast<Work>(work), true, {0, 0, 1, 1}, 0, 0}, record, record) || work == 0)
                 << names[work];
+    EXPECT_TRUE(sizeof(void*) > 4 || BlurImage(records[0], 3)) << "no second image";
     EXPECT_TRUE(std::ranges::equal(pixels, std::vector<DWORD>{1, 2, 3, 4}));
     const BITMAP large{0, 1 << 27, 1, 3 << 27, 1, 24, pixels};
     EXPECT_TRUE(sizeof(void*) > 4 || !BlurImage(large, 3)) << "more sums than memory holds";
