@@ -457,7 +457,7 @@ def CanvasToTexture(canvas):
 @_export(c_int, HGTEXTURE, POINTER(SIZE))
 def GetTextureSize(texture, size):
     """Writes the size of the current slice, or of the surface when there are no slices, in pixels.
-    Returns: 1; 0 for None, or when there are slices but none is current"""
+    Returns: 1; 0 for None"""
     return (texture, size)
 
 
@@ -1543,7 +1543,7 @@ def CreateTextureRgn(texture, area):
     texture: 8 (palette), 24 (always the whole area) or 32 bits; a bitmap will do
     area: surface pixels, inside the surface; None, all of it. Its corner is the region's origin
     Returns: a region that is the caller's to delete; None for None, an area that is not inside, another depth, or
-        when memory is short"""
+        when memory is short. When memory runs short halfway, the region has the parts that could be made"""
     return (texture, area)
 
 
@@ -1551,7 +1551,8 @@ def CreateTextureRgn(texture, area):
 def CopyBitmap_IPP(src, dst, area):
     """Copies pixels. Nothing is stretched, and destinations of other depths get the source's bytes.
     src: 24 or 32 bits per pixel
-    dst: large enough for what is copied; may overlap src if the row steps are the same
+    dst: may overlap src if the row steps are the same. A record with width and height 0 tells of bits, row step
+        and depth only: its memory must be large enough
     area: which rows of both images, top to bottom, and how many pixels of each, right - left; they start
         bmBitsPixel * left / 4 bytes into the row, which is column 2 * left: pass left 0 where the place
         matters. None: as many as src has, from the first pixels on
@@ -1577,7 +1578,7 @@ def MirrorEx(src, dst, axis):
 def AlphaBlend_IPP(src, dst):
     """Draws a premultiplied image of four bytes per pixel over the first pixels of another one: every byte becomes
     s + d * (255 - alpha of s) / 255, rounded to nearest, at most 255. Drawing on canvases truncates instead.
-    dst: at least as large as src"""
+    dst: gets no more than it has room for; with width and height 0 it is trusted to be as large as src"""
     return (src, dst)
 
 
@@ -1591,8 +1592,8 @@ def SetColor_IPP(image, color, keepAlpha):
 
 @_export(c_int, POINTER(BITMAP), POINTER(BITMAP), DWORD)
 def ARGBOrBitmap_IPP(src, dst, value):
-    """Each pixel of dst becomes the pixel of src OR the value. Four bytes per pixel, and rows without gaps: the row steps
-    are ignored.
+    """Each pixel of dst becomes the pixel of src OR the value. Four bytes per pixel, and rows without gaps, from bmBits on:
+    row steps only tell how much memory there is, and count as the length of a row where they are shorter.
     src, dst: may be the same image
     Returns: 1 for two records of one size, whatever could be written; else 0"""
     return (src, dst, value)
