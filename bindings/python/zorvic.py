@@ -362,7 +362,7 @@ def GetBitmapSize(bitmap, size):
 def LockBitmapBits(bitmap, out, area):
     """Describes the pixels of a bitmap, for reading and writing in place. Locks do not count or exclude one another.
     out: receives the description of the area
-    area: surface pixels; None, all of it
+    area: surface pixels; None means all of it
     Returns: 1; 0 for None, without pixels, below 8 bits per pixel, or for an area that is empty or reaches outside"""
     return (bitmap, out, area)
 
@@ -406,7 +406,7 @@ def CopyBitmap(dst, dstArea, src, srcArea):
     """Copies pixels, palette and operation word between surfaces of one depth and palette size, or widens any source
     into a 32-bit surface. Other pairs copy nothing. Nothing is stretched: the source area's size is copied.
     dst, src: may be the same bitmap
-    dstArea, srcArea: surface pixels; None, all of it. The destination area places the copy, which is cut to what
+    dstArea, srcArea: surface pixels; None means all of it. The destination area places the copy, which is cut to what
         lies inside the destination surface
     Returns: 1 for two valid handles, whatever was copied; else 0"""
     return (dst, dstArea, src, srcArea)
@@ -414,7 +414,7 @@ def CopyBitmap(dst, dstArea, src, srcArea):
 
 @_export(c_void_p, c_void_p)
 def RegisterD2DResoureMgr(manager):
-    """Registers the process-wide resource manager; None, none. It stays the host's. Returns:
+    """Registers the process-wide resource manager; None means none. It stays the host's. Returns:
     manager"""
     return (manager,)
 
@@ -806,7 +806,7 @@ def DrawBitmapEx(canvas, dst, bitmap, filter, alpha):
     """Draws a bitmap into a rectangle of a canvas by the bitmap's operation word, stretched to fit and clipped. What is
     visible has the pixels of the unclipped draw. Drawn unstretched onto itself, a canvas's surface counts as a copy.
     canvas: target; its origins and clip apply
-    dst: logical pixels; None, the bitmap's own size at (0, 0)
+    dst: logical pixels; None means the bitmap's own size at (0, 0)
     bitmap: 8, 24 or 32 bits per pixel; only read
     filter: sampling, see FILTER_NEAREST
     alpha: opacity 0..255; ignored by OP_MULTIPLY and OP_DESTINATION_OVER
@@ -817,7 +817,7 @@ def DrawBitmapEx(canvas, dst, bitmap, filter, alpha):
 @_export(c_int, HGCANVAS, POINTER(RECT), HGBITMAP, POINTER(RECT), DWORD, BYTE)
 def DrawBitmapEx2(canvas, dst, bitmap, src, filter, alpha):
     """DrawBitmapEx from a part of the bitmap.
-    src: bitmap pixels, inside the bitmap (else nothing is drawn); None, all of it"""
+    src: bitmap pixels, inside the bitmap (else nothing is drawn); None means all of it"""
     return (canvas, dst, bitmap, src, filter, alpha)
 
 
@@ -980,7 +980,7 @@ def DrawModulation(canvas, x, y, bitmap, src, color):
     what is there. Otherwise it is multiplied by the colour and drawn over.
     x, y: logical position of the top left corner
     bitmap: 8, 24 or 32 bits per pixel
-    src: bitmap pixels; None, all of it
+    src: bitmap pixels; None means all of it
     color: premultiplied ARGB
     Returns: 1; 0 for None"""
     return (canvas, x, y, bitmap, src, color)
@@ -1165,7 +1165,7 @@ def SetStrokeJoin(canvas, join):
 
 @_export(None, HGCANVAS, HGGRADIENT)
 def SetGradient(canvas, gradient):
-    """The gradient of DRAW_GRADIENT; None, none. The canvas keeps what it needs: it may be
+    """The gradient of DRAW_GRADIENT; None means none. The canvas keeps what it needs: it may be
     destroyed at once."""
     return (canvas, gradient)
 
@@ -1316,8 +1316,8 @@ def GeoRectangle(canvas, rect, pen, brush):
     so that alpha survives; otherwise GDI draws with pen and brush. It gets edges outside the clip
     nearer than they are, by whole periods of the pen's dashes.
     rect: logical pixels
-    pen: None, black
-    brush: None, the inside stays
+    pen: None means black
+    brush: None leaves the inside as it is
     Returns: 1; 0 for None"""
     return (canvas, rect, pen, brush)
 
@@ -1454,7 +1454,7 @@ def ShuffleBitmap(bitmap, mode):
 @_export(c_int, HGBITMAP, POINTER(RECT), c_int)
 def ShuffleBitmapEx(bitmap, area, mode):
     """Moves values between the channels of an area. 32 bits.
-    area: surface pixels, not empty and inside the surface; None, all of it
+    area: surface pixels, not empty and inside the surface; None means all of it
     mode: see SHUFFLE_ALPHA_TO_GRAY; others change nothing
     Returns: 1; 0 for None or an area that is not inside"""
     return (bitmap, area, mode)
@@ -1541,7 +1541,7 @@ def CreateTextureRgn(texture, area):
     """Makes a GDI region of all pixels that are not 0x00000000, to shape a window or to clip by. While the top byte of the
     operation word is 0 (OP_COPY) alpha does not count, and the region is the whole area.
     texture: 8 (palette), 24 (always the whole area) or 32 bits; a bitmap will do
-    area: surface pixels, inside the surface; None, all of it. Its corner is the region's origin
+    area: surface pixels, inside the surface; None means all of it. Its corner is the region's origin
     Returns: a region that is the caller's to delete; None for None, an area that is not inside, another depth, or
         when memory is short. When memory runs short halfway, the region has the parts that could be made"""
     return (texture, area)
@@ -1551,7 +1551,7 @@ def CreateTextureRgn(texture, area):
 def CopyBitmap_IPP(src, dst, area):
     """Copies pixels. Nothing is stretched, and destinations of other depths get the source's bytes.
     src: 24 or 32 bits per pixel
-    dst: may overlap src if the row steps are the same. A record with width and height 0 tells of bits, row step
+    dst: may overlap src if the row steps are the same. A record with width and height 0 states bits, row step
         and depth only: its memory must be large enough
     area: which rows of both images, top to bottom, and how many pixels of each, right - left; they start
         bmBitsPixel * left / 4 bytes into the row, which is column 2 * left: pass left 0 where the place

@@ -145,7 +145,7 @@ VEK_API int VEK_CALL vekCanvasSave(VekCanvas canvas);
 
 /** Saves as vekCanvasSave, and sends what is drawn until the matching restore to a layer that starts transparent. The
  *  restore draws it on what was there before with source-over, whatever the blend mode then.
- *  \param bounds  the part that the layer needs to have, clipped; NULL, all of the clip
+ *  \param bounds  the part that the layer needs to have, clipped; NULL means all of the clip
  *  \param alpha   opacity of the layer 0..255, clamped
  *  \return 1; 0 for a 0 handle, without a bitmap or without memory for the layer: the state is saved all the same
  *          (except for a 0 handle), and drawing goes on without a layer */

@@ -101,7 +101,7 @@ ZORVIC_API int ZORVIC_CALL GetBitmapSize(HGBITMAP bitmap, SIZE* size);
 
 /** Describes the pixels of a bitmap, for reading and writing in place. Locks do not count or exclude one another.
  *  \param out   receives the description of the area
- *  \param area  surface pixels; NULL, all of it
+ *  \param area  surface pixels; NULL means all of it
  *  \return 1; 0 for NULL, without pixels, below 8 bits per pixel, or for an area that is empty or reaches outside */
 ZORVIC_API int ZORVIC_CALL LockBitmapBits(HGBITMAP bitmap, BITMAP* out, const RECT* area);
 
@@ -127,7 +127,7 @@ ZORVIC_API int ZORVIC_CALL GetBitmapBitsPixel(HGBITMAP bitmap, BYTE* bitsPixel);
 /** Copies pixels, palette and operation word between surfaces of one depth and palette size, or widens any source
  *  into a 32-bit surface. Other pairs copy nothing. Nothing is stretched: the source area's size is copied.
  *  \param dst,src          may be the same bitmap
- *  \param dstArea,srcArea  surface pixels; NULL, all of it. The destination area places the copy, which is cut to what
+ *  \param dstArea,srcArea  surface pixels; NULL means all of it. The destination area places the copy, which is cut to what
  *                          lies inside the destination surface
  *  \return 1 for two valid handles, whatever was copied; else 0 */
 ZORVIC_API int ZORVIC_CALL CopyBitmap(HGBITMAP dst, const RECT* dstArea, HGBITMAP src, const RECT* srcArea);
@@ -160,7 +160,7 @@ protected:
 typedef struct ResourceManager ResourceManager;
 #endif
 
-/** Registers the process-wide resource manager; NULL, none. It stays the host's. \return manager */
+/** Registers the process-wide resource manager; NULL means none. It stays the host's. \return manager */
 ZORVIC_API ResourceManager* ZORVIC_CALL RegisterD2DResoureMgr(ResourceManager* manager);
 
 /* ------------------------------------------------------------------------------------------------------ textures */
@@ -368,7 +368,7 @@ ZORVIC_API int ZORVIC_CALL DrawBitmap(HGCANVAS canvas, const RECT* dst, HGBITMAP
 /** Draws a bitmap into a rectangle of a canvas by the bitmap's operation word, stretched to fit and clipped. What is
  *  visible has the pixels of the unclipped draw. Drawn unstretched onto itself, a canvas's surface counts as a copy.
  *  \param canvas  target; its origins and clip apply
- *  \param dst     logical pixels; NULL, the bitmap's own size at (0, 0)
+ *  \param dst     logical pixels; NULL means the bitmap's own size at (0, 0)
  *  \param bitmap  8, 24 or 32 bits per pixel; only read
  *  \param filter  sampling, see ZORVIC_FILTER_NEAREST
  *  \param alpha   opacity 0..255; ignored by ZORVIC_OP_MULTIPLY and ZORVIC_OP_DESTINATION_OVER
@@ -376,7 +376,7 @@ ZORVIC_API int ZORVIC_CALL DrawBitmap(HGCANVAS canvas, const RECT* dst, HGBITMAP
 ZORVIC_API int ZORVIC_CALL DrawBitmapEx(HGCANVAS canvas, const RECT* dst, HGBITMAP bitmap, DWORD filter, BYTE alpha);
 
 /** DrawBitmapEx from a part of the bitmap.
- *  \param src  bitmap pixels, inside the bitmap (else nothing is drawn); NULL, all of it */
+ *  \param src  bitmap pixels, inside the bitmap (else nothing is drawn); NULL means all of it */
 ZORVIC_API int ZORVIC_CALL DrawBitmapEx2(HGCANVAS canvas, const RECT* dst, HGBITMAP bitmap, const RECT* src,
                                          DWORD filter, BYTE alpha);
 
@@ -405,7 +405,7 @@ ZORVIC_API int ZORVIC_CALL DrawTextureEx3(HGCANVAS canvas, const RECT* dst, HGTE
  * What DrawTexture does for a texture's layout mode, for hosts that choose the layout themselves. Arguments that all
  * have in common:
  *   - dst: logical pixels; each piece is clipped and drawn as DrawBitmapEx2 would draw it
- *   - slice: texture pixels; NULL, all of the texture. Edges may be given in either order. A slice that is empty or
+ *   - slice: texture pixels; NULL means all of the texture. Edges may be given in either order. A slice that is empty or
  *             reaches outside the texture makes the call return 0 without drawing
  *   - filter: sampling, see ZORVIC_FILTER_NEAREST
  *   - alpha: opacity 0..255, as for DrawBitmapEx
@@ -524,7 +524,7 @@ ZORVIC_API int ZORVIC_CALL GdiTransCanvas(HDC target, const RECT* dst, HGCANVAS 
  *  what is there. Otherwise it is multiplied by the colour and drawn over.
  *  \param x,y     logical position of the top left corner
  *  \param bitmap  8, 24 or 32 bits per pixel
- *  \param src     bitmap pixels; NULL, all of it
+ *  \param src     bitmap pixels; NULL means all of it
  *  \param color   premultiplied ARGB
  *  \return 1; 0 for NULL */
 ZORVIC_API int ZORVIC_CALL DrawModulation(HGCANVAS canvas, int x, int y, HGBITMAP bitmap, const RECT* src, DWORD color);
@@ -691,7 +691,7 @@ enum {
 /** How strokes turn corners, see ZORVIC_JOIN_MITER, which is set at first. */
 ZORVIC_API void ZORVIC_CALL SetStrokeJoin(HGCANVAS canvas, int join);
 
-/** The gradient of ZORVIC_DRAW_GRADIENT; NULL, none. The canvas keeps what it needs: it may be destroyed at once. */
+/** The gradient of ZORVIC_DRAW_GRADIENT; NULL means none. The canvas keeps what it needs: it may be destroyed at once. */
 ZORVIC_API void ZORVIC_CALL SetGradient(HGCANVAS canvas, HGGRADIENT gradient);
 
 /** Width of strokes in pixels, above 0; other values change nothing. At first 1. */
@@ -786,8 +786,8 @@ ZORVIC_API void ZORVIC_CALL GradientDestroy(HGGRADIENT gradient);
  *  so that alpha survives; otherwise GDI draws with pen and brush. It gets edges outside the clip
  *  nearer than they are, by whole periods of the pen's dashes.
  *  \param rect   logical pixels
- *  \param pen    NULL, black
- *  \param brush  NULL, the inside stays
+ *  \param pen    NULL means black
+ *  \param brush  NULL leaves the inside as it is
  *  \return 1; 0 for NULL */
 ZORVIC_API int ZORVIC_CALL GeoRectangle(HGCANVAS canvas, const RECT* rect, HPEN pen, HBRUSH brush);
 
@@ -871,7 +871,7 @@ enum {
 ZORVIC_API int ZORVIC_CALL ShuffleBitmap(HGBITMAP bitmap, int mode);
 
 /** Moves values between the channels of an area. 32 bits.
- *  \param area  surface pixels, not empty and inside the surface; NULL, all of it
+ *  \param area  surface pixels, not empty and inside the surface; NULL means all of it
  *  \param mode  see ZORVIC_SHUFFLE_ALPHA_TO_GRAY; others change nothing
  *  \return 1; 0 for NULL or an area that is not inside */
 ZORVIC_API int ZORVIC_CALL ShuffleBitmapEx(HGBITMAP bitmap, const RECT* area, int mode);
@@ -909,7 +909,7 @@ ZORVIC_API int ZORVIC_CALL BlurTexture(HGTEXTURE dst, HGTEXTURE src);
 /** Makes a GDI region of all pixels that are not 0x00000000, to shape a window or to clip by. While the top byte of the
  *  operation word is 0 (ZORVIC_OP_COPY) alpha does not count, and the region is the whole area.
  *  \param texture  8 (palette), 24 (always the whole area) or 32 bits; a bitmap will do
- *  \param area     surface pixels, inside the surface; NULL, all of it. Its corner is the region's origin
+ *  \param area     surface pixels, inside the surface; NULL means all of it. Its corner is the region's origin
  *  \return a region that is the caller's to delete; NULL for NULL, an area that is not inside, another depth, or
  *          when memory is short. When memory runs short halfway, the region has the parts that could be made */
 ZORVIC_API HRGN ZORVIC_CALL CreateTextureRgn(HGTEXTURE texture, const RECT* area);
@@ -924,7 +924,7 @@ ZORVIC_API HRGN ZORVIC_CALL CreateTextureRgn(HGTEXTURE texture, const RECT* area
 
 /** Copies pixels. Nothing is stretched, and destinations of other depths get the source's bytes.
  *  \param src   24 or 32 bits per pixel
- *  \param dst   may overlap src if the row steps are the same. A record with width and height 0 tells of bits, row step
+ *  \param dst   may overlap src if the row steps are the same. A record with width and height 0 states bits, row step
  *               and depth only: its memory must be large enough
  *  \param area  which rows of both images, top to bottom, and how many pixels of each, right - left; they start
  *               bmBitsPixel * left / 4 bytes into the row, which is column 2 * left: pass left 0 where the place

@@ -15,7 +15,7 @@ namespace {
 
 // Up to here the form in use sums in 32 bits and divides by multiplication: 2896^2 < 2^23.
 constexpr int largestSmallBox = 2896;
-// Up to here sums fit 64 bits. Larger boxes count as this one, beside which any image is a speck.
+// Up to here sums fit 64 bits. Larger boxes count as this one: no image is as large.
 constexpr int largestBox = 1 << 28;
 
 constexpr std::int64_t slackColumns = 8;  // vectors read on behind the last box

@@ -32,7 +32,7 @@ class RecordRows {
 public:
     // The image whose size is the job's: in this memory, which other calls on the same bits may narrow.
     RecordRows(const BITMAP& image, Range memory, std::int64_t firstByte = 0);
-    // A target that may have another size. A record of 0 x 0 tells of bits and step only, and is trusted.
+    // A target that may have another size. A record of 0 x 0 states bits and step only, and is trusted.
     static RecordRows Target(const BITMAP& image, std::int64_t firstByte = 0);
     // The whole image as one row of rows without gaps: a step that is shorter than a row counts as one.
     static RecordRows Packed(const BITMAP& image);

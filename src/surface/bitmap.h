@@ -46,8 +46,8 @@ public:
     HBITMAP ToSystem();
 
     DWORD filter = 0;  // the operation word
-    // Whether the host may delete it. Not the surface of a canvas, although GetBitmap hands it out, nor a bitmap of whose
-    // end the resource manager is just being told.
+    // Whether the host may delete it. False for the surface of a canvas, although GetBitmap hands it out, and while the
+    // resource manager is being told that the bitmap ends.
     bool isHosts = true;
 
 private:
