@@ -165,7 +165,7 @@ RECT AnyArea(Random& random) {
 
 // Rows that overlap, mirrored in place, give undefined pixels.
 bool IsUndefined(const RecordJob& job, const BITMAP& image) {
-    return job.work == Work::mirror && std::abs(image.bmWidthBytes) < 4 * image.bmWidth;
+    return job.work == Work::mirror && std::abs(image.bmWidthBytes) < std::int64_t{4} * image.bmWidth;
 }
 
 TEST(Records, KeepEveryOperationInside) {
