@@ -31,7 +31,8 @@ function(zorvic_vector_flags)
     endif()
     foreach(file IN LISTS ARGN)
         if(file MATCHES "_(mmx|sse|sse2|avx2|avx512|xsave)\\.cpp$")
-            set_source_files_properties("${file}" PROPERTIES COMPILE_OPTIONS "${flags_${CMAKE_MATCH_1}}")
+            set_source_files_properties("${file}" PROPERTIES
+                COMPILE_OPTIONS "${flags_${CMAKE_MATCH_1}}" SKIP_PRECOMPILE_HEADERS ON)
         endif()
     endforeach()
 endfunction()
@@ -109,6 +110,7 @@ function(zorvic_harden target)
         target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/src/platform/runtime/stack_guard_gnu.cpp")
         # It makes the guard with which the others return.
         set_source_files_properties("${PROJECT_SOURCE_DIR}/src/platform/runtime/stack_guard_gnu.cpp"
-            TARGET_DIRECTORY ${target} PROPERTIES COMPILE_OPTIONS -fno-stack-protector)
+            TARGET_DIRECTORY ${target} PROPERTIES
+            COMPILE_OPTIONS -fno-stack-protector SKIP_PRECOMPILE_HEADERS ON)
     endif()
 endfunction()
