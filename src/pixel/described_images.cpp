@@ -82,7 +82,7 @@ bool MirrorImage(const BITMAP& src, const BITMAP& dst, int axis) {
     if (mirrorsRows) {
         job.rows = {0, height / 2};
         RunInside(job, rows.Flipped(height), rows, mirrorsPixels ? ExchangeReversedPixels : ExchangePixels);
-        job.rows = {height / 2, (height + 1) / 2};
+        job.rows = {height / 2, height - height / 2};
     }
     if (mirrorsPixels) RunInside(job, rows, rows, ReversePixels);
     return true;

@@ -22,6 +22,15 @@ Range MemoryAt(std::int64_t step, const BITMAP& image) {
     return memory.end - memory.begin > mostBytes ? Range{0, 0} : memory;
 }
 
+// Rows above an image may reach into it where they are long enough, each of them into all of its memory. How many are taken
+// is limited for large images, and for those whose rows all start at one byte.
+Range RowsOf(const BITMAP& image, Range memory) {
+    constexpr std::int64_t mostBytesAbove = 1 << 20;
+    if (image.bmWidthBytes == 0) return {0, image.bmHeight};
+    const std::int64_t height = image.bmHeight, bytes = std::max<std::int64_t>(memory.end - memory.begin, 1);
+    return {-height - mostBytesAbove / bytes, height};
+}
+
 }  // namespace
 
 Range MemoryOf(const BITMAP& image) { return MemoryAt(image.bmWidthBytes, image); }
@@ -31,27 +40,27 @@ RecordRows::RecordRows(const BITMAP& image, Range ofMemory, std::int64_t firstBy
       memory(ofMemory),
       first(firstByte),
       step(image.bmWidthBytes),
-      rowsWithoutStep{0, image.bmHeight} {}
+      rows(RowsOf(image, ofMemory)) {}
 
 RecordRows RecordRows::Target(const BITMAP& image, std::int64_t firstByte) {
     const bool isTrusted = image.bmWidth == 0 && image.bmHeight == 0;
-    RecordRows rows(image, isTrusted ? Range{-mostBytes, mostBytes} : MemoryOf(image), firstByte);
-    rows.rowsWithoutStep = {INT32_MIN, INT32_MAX};
-    return rows;
+    RecordRows target(image, isTrusted ? Range{-mostBytes, mostBytes} : MemoryOf(image), firstByte);
+    target.rows = {INT32_MIN, INT32_MAX};
+    return target;
 }
 
 RecordRows RecordRows::Packed(const BITMAP& image) {
     const std::int64_t step = image.bmWidthBytes;
-    RecordRows rows(image, MemoryAt(step < 0 ? step : std::max(step, PixelRowBytes(image)), image));
-    rows.step = 0;
-    return rows;
+    RecordRows packed(image, MemoryAt(step < 0 ? step : std::max(step, PixelRowBytes(image)), image));
+    packed.step = 0;
+    return packed;
 }
 
 RecordRows RecordRows::Flipped(int height) const {
-    RecordRows rows = *this;
-    rows.first += (height - std::int64_t{1}) * step;
-    rows.step = -step;
-    return rows;
+    RecordRows flipped = *this;
+    flipped.first += (height - std::int64_t{1}) * step;
+    flipped.step = -step;
+    return flipped;
 }
 
 TargetPixels RecordRows::Row(std::int64_t y) const {
@@ -67,10 +76,10 @@ TargetPixels RecordRows::At(std::int64_t y, std::int64_t x, const Job& job) cons
 // Quotients that are truncated may be one too small or too large: such rows have no pixels inside.
 Range RecordRows::RowsInside(const Job& job) const {
     if (memory.begin == memory.end) return {0, 0};
-    if (step == 0) return rowsWithoutStep;
+    if (step == 0) return rows;
     const std::int64_t one = (memory.begin - first - job.pixels * job.bytesPerPixel) / step;
     const std::int64_t other = (memory.end - first) / step;
-    return {std::min(one, other) - 1, std::max(one, other) + 2};
+    return Common(rows, {std::min(one, other) - 1, std::max(one, other) + 2});
 }
 
 Range RecordRows::PixelsInside(std::int64_t y, const Job& job) const {

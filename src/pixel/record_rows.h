@@ -53,7 +53,7 @@ private:
     std::byte* bits;
     Range memory;
     std::int64_t first, step;
-    Range rowsWithoutStep;  // where all rows start at one byte, and memory does not end them
+    Range rows;  // those that a job may take, wherever they lie
 };
 
 // Calls run(src, dst, size) for the pixels that lie inside both images: for all at once, or else row by row. Pixels that
