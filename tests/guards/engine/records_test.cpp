@@ -176,7 +176,7 @@ TEST(Records, KeepEveryOperationInside) {
     Random random(1);
     for (int round = 0; round < 40'000; ++round) {
         const RecordJob job{static_cast<Work>(round % 7), random.Below(3) != 0, AnyArea(random), random.Below(3),
-                      random.Word()};
+                            random.Word()};
         const bool inPlace = random.Below(4) == 0 || job.work == Work::set || job.work == Work::setColors;
         Described& src = inPlace ? dst : first;
         src.Make(random, job.IsPacked());
