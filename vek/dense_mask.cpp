@@ -4,6 +4,7 @@
 
 #include <array>
 #include <numbers>
+#include <optional>
 #include <span>
 
 #include "flatten.h"
@@ -80,23 +81,28 @@ public:
     void AddFigure(const std::vector<Point>& points, bool closed) {
         const auto [highest, lowest] = std::ranges::minmax(points, {}, &Point::y);
         if (!IsNear(highest, lowest, half * std::max(form.miterLimit, 2.0))) return;
-        std::vector<Point> ways;  // unit vectors along the segments that have a length
-        std::vector<Point> ends;
+        std::optional<Point> first;  // unit vectors along the segments that have a length
+        Point last;
         for (std::size_t i = 0; i < points.size(); ++i) {
             const Point next = i + 1 < points.size() ? points[i + 1] : points.front();
             const double length = Distance(points[i], next);
             if (length == 0 || (i + 1 == points.size() && !closed)) continue;
-            ways.push_back((next - points[i]) * (1 / length));
-            AddSegment(points[i], next, ways.back());
-            if (ways.size() > 1) AddJoin(points[i], ways[ways.size() - 2], ways.back());
+            const Point way = (next - points[i]) * (1 / length);
+            AddSegment(points[i], next, way);
+            if (first) {
+                AddJoin(points[i], last, way);
+            } else {
+                first = way;
+            }
+            last = way;
         }
-        if (ways.empty()) {
+        if (!first) {
             if (form.cap == Cap::round) AddDisk(points.front());
             return;
         }
-        if (closed) return AddJoin(points.front(), ways.back(), ways.front());
-        AddCap(points.front(), ways.front() * -1);
-        AddCap(points.back(), ways.back());
+        if (closed) return AddJoin(points.front(), last, *first);
+        AddCap(points.front(), *first * -1);
+        AddCap(points.back(), last);
     }
 
 private:
@@ -145,19 +151,19 @@ private:
     // Corners of a whole circle, for a fiftieth of a pixel.
     double CircleCorners() const { return std::clamp(16 * std::sqrt(half), 16.0, 200.0); }
 
-    void AddArc(std::vector<Point>& polygon, Point center, double from, double sweep) const {
+    void AddArc(std::vector<Point>& out, Point center, double from, double sweep) const {
         const int lines = static_cast<int>(std::ceil(CircleCorners() * std::abs(sweep) / (2 * std::numbers::pi)));
         for (int i = 0; i <= lines; ++i) {
             const double angle = from + sweep * i / lines;
-            polygon.push_back(center + Point{std::cos(angle), std::sin(angle)} * half);
+            out.push_back(center + Point{std::cos(angle), std::sin(angle)} * half);
         }
     }
 
     void AddDisk(Point center) {
         if (!IsNear(center, center, half)) return;
-        std::vector<Point> disk = circle;
-        for (Point& p : disk) p = p + center;
-        AddConvex(disk);
+        polygon.clear();
+        for (const Point p : circle) polygon.push_back(p + center);
+        AddConvex(polygon);
     }
 
     void AddJoin(Point at, Point in, Point out) {
@@ -168,9 +174,9 @@ private:
         // A turn that the corners of a circle pass over has a straight edge.
         const double corners = CircleCorners() / (2 * std::numbers::pi);
         if (form.join == Join::round && 2 * (1 - dot) * corners * corners > 1) {
-            std::vector<Point> sector{at};
-            AddArc(sector, at, std::atan2(a.y, a.x), -outer * std::atan2(std::abs(cross), dot));
-            return AddConvex(sector);
+            polygon.assign(1, at);
+            AddArc(polygon, at, std::atan2(a.y, a.x), -outer * std::atan2(std::abs(cross), dot));
+            return AddConvex(polygon);
         }
         if (form.join == Join::miter && 2 <= form.miterLimit * form.miterLimit * (1 + dot)) {
             AddConvex(std::array{at, at + a, at + (a + b) * (1 / (1 + dot)), at + b});
@@ -187,7 +193,8 @@ private:
     Band& band;
     const StrokeForm& form;
     double half;
-    std::vector<Point> circle;  // of the stroke's width, around 0, 0
+    std::vector<Point> circle;   // of the stroke's width, around 0, 0
+    std::vector<Point> polygon;  // the piece at hand; its memory serves the next one
 };
 
 void AddEdges(Band& band, const Path& path, const Flatness& flatness, const StrokeForm& stroke) {

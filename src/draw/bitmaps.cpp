@@ -20,7 +20,7 @@ void DrawImage(const CanvasLock& target, const RECT& dst, const BitmapLockInfo& 
         const BitmapLockInfo part = PartOf(src, static_cast<int>(placement.left), static_cast<int>(placement.top),
                                            image.bmWidth, image.bmHeight);
         if (OverwritesSource(image, part))
-            return DrawInOrder(image, part, [&](const BitmapLockInfo& to, const BitmapLockInfo& from) {
+            return DrawBackwards(image, part, [&](const BitmapLockInfo& to, const BitmapLockInfo& from) {
                 SelectStretchKernel(to, from, operationWord, filterMode, alpha);
             });
     }

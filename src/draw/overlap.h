@@ -16,14 +16,10 @@ inline bool OverwritesSource(const BitmapLockInfo& dst, const BitmapLockInfo& sr
     return source < target && target < lastRow + std::ptrdiff_t{BytesPerPixel(DepthOf(src.bmBitsPixel))} * src.bmWidth;
 }
 
-// Calls draw(dst, src) for two images, or for parts of them in such an order that the result is that of a copy of src.
+// Calls draw(dst, src) for parts of two images, run by run from the last one on, each with a copy of its source. Both are
+// parts of one canvas, so that 32-bit pixels fit the run. Not inlined, or the copy's room would be made for every draw.
 template <class Draw>
-void DrawInOrder(const BitmapLockInfo& dst, const BitmapLockInfo& src, const Draw& draw) {
-    if (!OverwritesSource(dst, src)) {
-        draw(dst, src);
-        return;
-    }
-    // Backwards, run by run. Both are parts of one canvas, so that its 32-bit pixels fit the run.
+[[gnu::noinline]] void DrawBackwards(const BitmapLockInfo& dst, const BitmapLockInfo& src, const Draw& draw) {
     constexpr int runLength = 256;
     std::uint32_t run[runLength];
     for (int y = dst.bmHeight; y-- > 0;)
@@ -32,6 +28,16 @@ void DrawInOrder(const BitmapLockInfo& dst, const BitmapLockInfo& src, const Dra
             std::memcpy(run, PartOf(src, end - n, y, n, 1).bmBits, sizeof *run * static_cast<std::size_t>(n));
             draw(PartOf(dst, end - n, y, n, 1), BitmapLockInfo{0, n, 1, sizeof run, 1, 32, run, 0, 0, nullptr});
         }
+}
+
+// Calls draw(dst, src) for two images, or for parts of them in such an order that the result is that of a copy of src.
+template <class Draw>
+void DrawInOrder(const BitmapLockInfo& dst, const BitmapLockInfo& src, const Draw& draw) {
+    if (OverwritesSource(dst, src)) {
+        DrawBackwards(dst, src, draw);
+    } else {
+        draw(dst, src);
+    }
 }
 
 }  // namespace zorvic
