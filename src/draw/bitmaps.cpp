@@ -14,20 +14,19 @@ void DrawImage(const CanvasLock& target, const RECT& dst, const BitmapLockInfo& 
     const RECT visible = Intersection(target.Area(), dst);
     if (!target || IsEmpty(visible)) return;
     const BitmapLockInfo image = target.PartAt(visible);
-    const Placement placement{visible.left - std::int64_t{dst.left}, visible.top - std::int64_t{dst.top}, WidthOf(dst),
-                              HeightOf(dst)};
-    if (placement.width == src.bmWidth && placement.height == src.bmHeight) {
-        const BitmapLockInfo part = PartOf(src, static_cast<int>(placement.left), static_cast<int>(placement.top),
-                                           image.bmWidth, image.bmHeight);
-        if (OverwritesSource(image, part))
-            return DrawBackwards(image, part, [&](const BitmapLockInfo& to, const BitmapLockInfo& from) {
-                SelectStretchKernel(to, from, operationWord, filterMode, alpha);
-            });
-    }
-    if (visible == dst)
+    if (OverwritesSource(image, src) && WidthOf(dst) == src.bmWidth && HeightOf(dst) == src.bmHeight) {
+        const BitmapLockInfo part =
+            PartOf(src, visible.left - dst.left, visible.top - dst.top, image.bmWidth, image.bmHeight);
+        DrawInOrder(image, part, [&](const BitmapLockInfo& to, const BitmapLockInfo& from) {
+            SelectStretchKernel(to, from, operationWord, filterMode, alpha);
+        });
+    } else if (visible == dst) {
         SelectStretchKernel(image, src, operationWord, filterMode, alpha);
-    else
+    } else {
+        const Placement placement{visible.left - std::int64_t{dst.left}, visible.top - std::int64_t{dst.top},
+                                  WidthOf(dst), HeightOf(dst)};
         SelectPlacedKernel(image, placement, src, operationWord, filterMode, alpha);
+    }
 }
 
 }  // namespace
