@@ -58,6 +58,32 @@ public:
         }
     }
 
+    // Calls begin(p) for every figure and line(a, b) for the lines through all of its end and control points.
+    template <class Begin, class Line>
+    void VisitControlLines(Begin begin, Line line) const {
+        struct Lines {
+            Begin& callBegin;
+            Line& callLine;
+            Point first{}, current{};
+            void MoveTo(Point p) {
+                callBegin(p);
+                first = current = p;
+            }
+            void LineTo(Point p) {
+                callLine(current, p);
+                current = p;
+            }
+            void CurveTo(Point c1, Point c2, Point p) {
+                LineTo(c1);
+                LineTo(c2);
+                LineTo(p);
+            }
+            void Close() { LineTo(first); }
+        };
+        Lines lines{begin, line};
+        Visit(lines);
+    }
+
 private:
     void Add(Verb verb, std::initializer_list<Point> added);
     void StartFigure();

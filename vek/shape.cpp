@@ -22,28 +22,11 @@ constexpr double widestOnCurves = 1.5;
 constexpr double mostCairoRows = 4e5;
 constexpr double mostDashRows = 4e6;
 
-// Length of the lines through all end and control points: at least that of the outline.
-struct Ruler {
-    double length = 0;
-    Point start;
-    Point current;
-    void MoveTo(Point p) { start = current = p; }
-    void LineTo(Point p) {
-        length += Distance(current, p);
-        current = p;
-    }
-    void CurveTo(Point c1, Point c2, Point p) {
-        LineTo(c1);
-        LineTo(c2);
-        LineTo(p);
-    }
-    void Close() { LineTo(start); }
-};
-
+// At least the length of the outline.
 double ControlLength(const Path& path) {
-    Ruler ruler;
-    path.Visit(ruler);
-    return ruler.length;
+    double length = 0;
+    path.VisitControlLines([](Point) {}, [&](Point a, Point b) { length += Distance(a, b); });
+    return length;
 }
 
 // The mean coverage of a dashed stroke: its caps reach into the gaps, round ones by the mean width of a half disk.
